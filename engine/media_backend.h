@@ -9,15 +9,13 @@
 // Times are whole milliseconds from the start of the file.
 #pragma once
 
-#include <cstdint>
+#include "core/time.h"
+
 #include <functional>
 #include <string>
-
 #include <tl/expected.hpp>
 
 namespace zephyne {
-
-using Milliseconds = std::int64_t;
 
 // The states a media device reports, with their customary numbers.
 enum class DeviceMode {

@@ -1,0 +1,56 @@
+// The small things that the logic asks of the machine and of the desktop. All are called on the
+// user-interface thread.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace zephyne {
+
+// Uniform random numbers in [0, 1).
+class Random {
+  public:
+    virtual ~Random() = default;
+    virtual double next() = 0;
+};
+
+// The system's warning sound; returns at once.
+class Beeper {
+  public:
+    virtual ~Beeper() = default;
+    virtual void beep() = 0;
+};
+
+// How every part of the program speaks to the user: a modal box with a text. It pumps events
+// until it is answered.
+enum class Answer : std::int16_t { ok = -1, no = 0, yes = 1 };
+
+class Messages {
+  public:
+    virtual ~Messages() = default;
+
+    // flags 0: a notice with "OK". Any other value: a question with "Yes" and "No".
+    virtual Answer ShowDlgMessage(std::string text, std::int16_t flags, std::string title) = 0;
+};
+
+// The wire between two copies of the program. Only one copy per user holds the place; the others
+// find it taken, speak to the holder and end.
+class HandOver {
+  public:
+    virtual ~HandOver() = default;
+
+    // True when another copy holds the place. Otherwise this copy takes it.
+    virtual bool another_copy_runs() = 0;
+
+    // To the running copy: come forward, and: take this command line. Failures are silent.
+    virtual void bring_forward() = 0;
+    virtual void poke(std::string_view command_line) = 0;
+
+    // From other copies. Called from the event loop.
+    std::function<void()> on_bring_forward;
+    std::function<void(std::string)> on_poke;
+};
+
+}  // namespace zephyne

@@ -1,0 +1,98 @@
+#include "core/text/letter_case.h"
+
+#include "core/text/utf8.h"
+
+#include <utf8proc.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace zephyne {
+namespace {
+
+enum class Case { lower, upper };
+
+char ascii_lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+}
+char ascii_upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+}
+
+std::string ascii_mapped(std::string_view text, Case to) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(),
+                   to == Case::lower ? ascii_lower : ascii_upper);
+    return result;
+}
+
+std::string mapped(std::string_view text, Case to) {
+    if (is_ascii(text) || !is_utf8(text)) return ascii_mapped(text, to);
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        const char32_t c = take_character(text);
+        const auto code = static_cast<utf8proc_int32_t>(c);
+        append_character(result, static_cast<char32_t>(to == Case::lower ? utf8proc_tolower(code)
+                                                                         : utf8proc_toupper(code)));
+    }
+    return result;
+}
+
+std::string folded(std::string_view text) {
+    if (is_ascii(text) || !is_utf8(text)) return ascii_mapped(text, Case::lower);
+    utf8proc_uint8_t* result = nullptr;
+    const auto length =
+        utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
+                     static_cast<utf8proc_ssize_t>(text.size()), &result, UTF8PROC_CASEFOLD);
+    if (length < 0) return ascii_mapped(text, Case::lower);
+    std::string key(reinterpret_cast<char*>(result), static_cast<std::size_t>(length));
+    std::free(result);
+    return key;
+}
+
+}  // namespace
+
+std::string lower_case(std::string_view text) {
+    return mapped(text, Case::lower);
+}
+std::string upper_case(std::string_view text) {
+    return mapped(text, Case::upper);
+}
+
+std::string capitalised(std::string_view text) {
+    if (text.empty()) return {};
+    std::size_t first = 1;
+    if (is_utf8(text)) {
+        std::string_view rest = text;
+        take_character(rest);
+        first = text.size() - rest.size();
+    }
+    // The whole text decides whether Unicode applies, so that a name is never half one, half other.
+    if (!is_utf8(text)) {
+        return ascii_mapped(text.substr(0, first), Case::upper) +
+               ascii_mapped(text.substr(first), Case::lower);
+    }
+    return upper_case(text.substr(0, first)) + lower_case(text.substr(first));
+}
+
+bool equal_ignoring_case(std::string_view a, std::string_view b) {
+    return a == b || folded(a) == folded(b);
+}
+
+bool starts_with_ignoring_case(std::string_view text, std::string_view prefix) {
+    return folded(text).starts_with(folded(prefix));
+}
+
+std::string collation_key(std::string_view text) {
+    std::string key = folded(text);
+    key += '\0';
+    key += text;
+    return key;
+}
+
+std::string collation_key(std::string_view name, std::string_view folder) {
+    return collation_key(name) + '\0' + collation_key(folder);
+}
+
+}  // namespace zephyne

@@ -1,0 +1,28 @@
+// Letter case, and the one order in which the whole program sorts names.
+//
+// Names are bytes. Where they are valid UTF-8, case is Unicode's; where they are not, only ASCII
+// letters have case and all other bytes stay as they are.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zephyne {
+
+std::string lower_case(std::string_view text);
+std::string upper_case(std::string_view text);
+
+// The first character in upper case, the rest in lower case.
+std::string capitalised(std::string_view text);
+
+// Equal but for the case of letters (Unicode default case folding).
+bool equal_ignoring_case(std::string_view a, std::string_view b);
+bool starts_with_ignoring_case(std::string_view text, std::string_view prefix);
+
+// Byte order of these keys is the order of lists: without regard to case first, then by bytes, so
+// that no two different texts are equal. An entry line ("name|folder") is ordered by its name and
+// then by its folder; pass its two parts. Keys are meant to be made once per item and sort.
+std::string collation_key(std::string_view text);
+std::string collation_key(std::string_view name, std::string_view folder);
+
+}  // namespace zephyne
