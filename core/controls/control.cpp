@@ -25,6 +25,7 @@ Control::Control(Form& form, ControlKind kind, const ControlDesign& design)
 Control::~Control() {
     std::erase(form_.controls_, this);
     if (form_.focused_ == this) form_.focused_ = nullptr;
+    if (observer_) observer_->subject_gone();
 }
 
 void Control::changed(Property property) const {

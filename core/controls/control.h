@@ -95,6 +95,9 @@ class ControlObserver {
   public:
     virtual ~ControlObserver() = default;
     virtual void property_changed(Property property) = 0;
+
+    // The observed control or form is about to end; it must not be touched any more.
+    virtual void subject_gone() {}
 };
 
 enum class TabStop { no, yes };

@@ -46,6 +46,13 @@ FileResult<void> DriveList::set_drive_of(const std::string& path) {
     return {};
 }
 
+void DriveList::follow(const std::string& path) {
+    const auto index = volume_of(volumes_, path, files_.path_style());
+    if (!index || *index == selected_) return;
+    selected_ = *index;
+    changed(Property::selection);
+}
+
 void DriveList::refresh() {
     auto volumes = files_.volumes();
     if (volumes == volumes_) return;

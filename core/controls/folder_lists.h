@@ -29,6 +29,9 @@ class DriveList final : public Control {
     // on_change when it is another drive.
     FileResult<void> set_drive_of(const std::string& path);
 
+    // Shows the drive of a path, silently.
+    void follow(const std::string& path);
+
     // The user opened the list (the volumes are looked up anew), and chose one.
     void refresh();
     void choose(std::size_t index);

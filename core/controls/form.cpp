@@ -8,6 +8,10 @@ namespace zephyne {
 Form::Form(const FormDesign& design)
     : name_(design.name), title_(design.title), place_{0, 0, design.width, design.height} {}
 
+Form::~Form() {
+    if (observer_) observer_->subject_gone();
+}
+
 Control* Form::find(std::string_view name) const {
     const auto found = std::find_if(controls_.begin(), controls_.end(),
                                     [&](const Control* c) { return c->name() == name; });
@@ -59,12 +63,12 @@ void Form::set_focused(Control* control) {
 }
 
 bool Form::request_unload(CloseReason reason) {
-    if (asking_) return false;
+    if (!loaded_ || (asking_ && reason != CloseReason::session_end)) return false;
     asking_ = true;
     bool cancel = false;
     if (on_query_unload) on_query_unload(reason, cancel);
     asking_ = false;
-    if (cancel) return false;
+    if (cancel || !loaded_) return false;
     loaded_ = false;
     if (on_unload) on_unload();
     set_visible(false);

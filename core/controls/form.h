@@ -28,7 +28,7 @@ struct FormDesign {
 class Form {
   public:
     explicit Form(const FormDesign& design);
-    virtual ~Form() = default;
+    virtual ~Form();
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
 
@@ -72,7 +72,8 @@ class Form {
 
     // Asks the form to close: on_query_unload may cancel, else on_unload runs and the form is
     // hidden and unloaded. Returns whether it was unloaded. Nothing happens (false) while the
-    // question of an earlier request is still open.
+    // question of an earlier request is still open, except at the end of the session, which does
+    // not wait for an answer.
     bool request_unload(CloseReason reason);
     bool loaded() const { return loaded_; }
     void load() { loaded_ = true; }

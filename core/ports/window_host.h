@@ -6,6 +6,7 @@
 namespace zephyne {
 
 class Form;
+class Label;
 
 struct TwipsSize {
     int width = 0;
@@ -18,6 +19,9 @@ inline constexpr std::int32_t kAppWindowStyle = 0x40000;
 class WindowHost {
   public:
     virtual ~WindowHost() = default;
+
+    // How high the text of a label is, wrapped to the label's width, in twips.
+    virtual int text_height(const Label& label) const = 0;
 
     // Gives the form a window, hidden until the form is shown; the form outlives it. From now on
     // the window follows the form's and its controls' properties.

@@ -1,0 +1,57 @@
+// Which song plays next: the cycle of songs still to play, and the orders in which it is drained.
+#pragma once
+
+#include "engine/between_songs.h"
+#include "engine/player.h"
+#include "engine/stage.h"
+#include "engine/time_display.h"
+
+#include <cstddef>
+
+namespace zephyne {
+
+class PlayOrder final : public NextSong {
+  public:
+    PlayOrder(Stage& stage, TimeDisplay& display, BetweenSongs& between, Player& player);
+
+    // Takes the next song from RemainingList by the play order and plays it. Nothing plays when
+    // the list is empty.
+    void PlayNextSong() override;
+
+    // Begins a new cycle with all songs of the list.
+    void RefillAndPlayNext() override;
+    void go_on() override;
+
+    // The first file of the hand-over queue that is still there, if any.
+    void play_next_queued() override;
+
+    // "Next": the next song by the order; in Manual mode the one below in the list.
+    void Command9_Click();
+
+    // "Reset List", and "Cancel Dly" while the pause between songs runs.
+    void Command6_Click();
+
+    // Fills RemainingList with the whole list, or with all but one song of it, and puts
+    // OrderIndex to where the order begins.
+    void refill();
+    void refill_without(std::size_t song);
+
+    // The counters beside "Total:" and "Remaining:".
+    void show_counters();
+
+    // What rebuilds the song list from the folder.
+    std::function<void()> refreshfiles;
+
+  private:
+    std::size_t choose() const;
+    void advance_after(std::size_t count);
+    void select_in_list(const ListItem& entry);
+    void show_remaining();
+
+    Stage& stage_;
+    TimeDisplay& display_;
+    BetweenSongs& between_;
+    Player& player_;
+};
+
+}  // namespace zephyne

@@ -1,0 +1,179 @@
+#include "engine/song_list.h"
+
+#include "core/playlist_entry.h"
+#include "core/text/letter_case.h"
+#include "core/text/numbers.h"
+#include "engine/recent_songs.h"
+
+#include <utility>
+#include <vector>
+
+namespace zephyne {
+namespace {
+
+bool is_listed(SongKind kind, const Settings& settings) {
+    switch (kind) {
+        case SongKind::midi:
+            return true;
+        case SongKind::wave:
+        case SongKind::video:
+            return settings.AllowWav == 1;
+        case SongKind::none:
+            break;
+    }
+    return false;
+}
+
+}  // namespace
+
+SongList::SongList(Stage& stage, TimeDisplay& display, BetweenSongs& between, Player& player,
+                   PlayOrder& order)
+    : stage_(stage), display_(display), between_(between), player_(player), order_(order) {
+    stage_.form.File1.on_click = [this] { File1_Click(); };
+    stage_.form.Dir1.on_change = [this] { Dir1_Change(); };
+    stage_.form.Drive1.on_change = [this] { Drive1_Change(); };
+    order_.refreshfiles = [this] { refreshfiles(); };
+}
+
+void SongList::refreshfiles() {
+    if (stage_.settings().Playlist == 1) return;
+    Form1& f = stage_.form;
+    {
+        const FlagGuard emptying(stage_.program.FindSync);
+        f.text2.set_text("");
+    }
+    std::vector<ListItem> songs;
+    auto names = stage_.files.list_files(f.Dir1.path());
+    if (names) {
+        const bool lower = stage_.settings().Lowercase == 1;
+        for (std::string& name : *names) {
+            if (!is_listed(song_kind(name), stage_.settings())) continue;
+            std::string shown = lower ? capitalised(name) : name;
+            if (shown == name) {
+                songs.push_back({std::move(shown), {}});
+            } else {
+                songs.push_back({std::move(shown), std::move(name)});
+            }
+        }
+    }
+    f.File1.set_items(std::move(songs));
+}
+
+void SongList::filepathchange() {
+    Program& program = stage_.program;
+    Form1& f = stage_.form;
+    if (program.StartingUp) return;
+    const auto forget_song_of_empty_list = [&] {
+        if (!f.File1.empty()) return;
+        program.CurrentSongName.clear();
+        program.CurrentSongPath.clear();
+    };
+
+    if (program.settings.Mode != PlayMode::Queue) {
+        f.Label6.set_caption("");
+        f.Label13.set_caption("");
+        f.set_title("Zephyne");
+        if (program.settings.Extended == 1) f.Text1.set_text("");
+        RecordRecentSong(stage_);
+    }
+    switch (program.settings.Mode) {
+        case PlayMode::Manual:
+            forget_song_of_empty_list();
+            f.Label2.set_caption(decimal(static_cast<std::int64_t>(f.File1.count())));
+            f.Label4.set_caption("N/A");
+            player_.StopDevice();
+            break;
+        case PlayMode::Queue:
+            player_.StopDevice();
+            break;
+        default:
+            order_.RefillAndPlayNext();
+            forget_song_of_empty_list();
+            break;
+    }
+    program.PausedByUser = false;
+}
+
+void SongList::Dir1_Change() {
+    stage_.form.Drive1.follow(stage_.form.Dir1.path());
+    if (stage_.program.SwitchingSong) return;
+    refreshfiles();
+    filepathchange();
+}
+
+void SongList::Drive1_Change() {
+    Form1& f = stage_.form;
+    if (f.Dir1.set_path(f.Drive1.drive().root)) return;
+    if (std::exchange(recovering_, true)) return;
+    stage_.messages.ShowDlgMessage("Error - Drive May Be Unavailable.", 0, "Drive Error");
+    (void)f.Drive1.set_drive_of(stage_.program.StartFolder);
+    (void)f.Dir1.set_path(f.Drive1.drive().root);
+    recovering_ = false;
+}
+
+// The selected row becomes the current song.
+void SongList::take_selected() {
+    Program& program = stage_.program;
+    const Form1& f = stage_.form;
+    if (!f.File1.selected()) return;
+    const std::size_t row = *f.File1.selected();
+    const PathStyle style = stage_.files.path_style();
+    if (program.settings.Playlist == 1) {
+        if (row >= f.List3.count()) return;
+        const auto [name, folder] = split_entry_line(f.List3.item(row).text);
+        program.CurrentSongName = std::string(name);
+        program.CurrentSongPath = joined(std::string(folder), name, style);
+    } else {
+        program.CurrentSongName = f.File1.item(row).text;
+        program.CurrentSongPath = joined(f.Dir1.path(), f.File1.item(row).real(), style);
+    }
+}
+
+// The user may click again while the synthesizer is being reset; the last click counts.
+void SongList::play_taken() {
+    const auto row = stage_.form.File1.selected();
+    if (song_kind(stage_.program.CurrentSongName) == SongKind::midi) {
+        between_.ResetSynth();
+        if (stage_.form.File1.selected() != row) take_selected();
+    }
+    player_.PlayFile();
+}
+
+void SongList::File1_Click() {
+    Program& program = stage_.program;
+    Form1& f = stage_.form;
+    if (program.SwitchingSong || program.StartingUp) return;
+    if (program.settings.Mode == PlayMode::Queue || f.File1.empty()) return;
+
+    if (stage_.device.is_open()) {
+        program.SwitchingSong = true;
+        display_.StopAnimation();
+        player_.StopDevice();
+        program.SwitchingSong = false;
+        stage_.device.Type = DeviceType::Sequencer;
+        display_.rewind_slider();
+    }
+    program.PausedByUser = false;
+
+    const auto empty_find_box = [&] {
+        const FlagGuard emptying(program.FindSync);
+        f.text2.set_text("");
+    };
+    RecordRecentSong(stage_);
+    empty_find_box();
+    display_.rewind_slider();
+    take_selected();
+    if (program.settings.Playlist == 1) {
+        const FlagGuard starting(program.StartingUp);
+        f.Drive1.set_enabled(false);
+        f.Dir1.set_enabled(false);
+        play_taken();
+        f.Drive1.set_enabled(true);
+        f.Dir1.set_enabled(true);
+    } else {
+        const FlagGuard starting(program.AutoStarting);
+        play_taken();
+    }
+}
+
+}  // namespace zephyne

@@ -1,0 +1,94 @@
+// Hand-made stand-ins for the machine and the desktop. Each writes down what it was asked for.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "core/controls/form.h"
+#include "core/ports/services.h"
+#include "core/ports/window_host.h"
+
+namespace zephyne::test {
+
+using Log = std::vector<std::string>;
+
+// Random numbers as a test lays them out; after the last one, again from the first.
+class ScriptedRandom final : public Random {
+  public:
+    std::vector<double> numbers = {0.0};
+    double next() override { return numbers[next_++ % numbers.size()]; }
+
+  private:
+    std::size_t next_ = 0;
+};
+
+class LoggedBeeper final : public Beeper {
+  public:
+    explicit LoggedBeeper(Log& log) : log_(log) {}
+    void beep() override { log_.push_back("beep"); }
+
+  private:
+    Log& log_;
+};
+
+// Answers questions at once, after letting a test act while the message is open.
+class ScriptedMessages final : public Messages {
+  public:
+    explicit ScriptedMessages(Log& log) : log_(log) {}
+
+    Answer answer = Answer::yes;
+    std::function<void()> while_open;
+
+    Answer ShowDlgMessage(std::string text, std::int16_t flags, std::string title) override {
+        log_.push_back("message: " + text + " [" + title + "]");
+        if (while_open) while_open();
+        return flags == 0 ? Answer::ok : answer;
+    }
+
+  private:
+    Log& log_;
+};
+
+class FakeHandOver final : public HandOver {
+  public:
+    bool taken = false;  // another copy runs
+    Log sent;
+
+    bool another_copy_runs() override { return taken; }
+    void bring_forward() override { sent.push_back("come forward"); }
+    void poke(std::string_view text) override { sent.push_back("poke " + std::string(text)); }
+};
+
+// A desktop without pictures. A modal form is handed to the test, which acts on it.
+class FakeWindows final : public WindowHost {
+  public:
+    bool has_icon = false;  // our icon is in the notification area
+    std::map<std::string, std::int32_t> styles;
+    Log raised;
+    int height_of_text = 0;
+    std::function<void(Form&)> on_modal;
+
+    int text_height(const Label&) const override { return height_of_text; }
+    void create(Form&) override {}
+    void destroy(Form&) override {}
+    void run_modal(Form& form) override {
+        form.set_visible(true);
+        form.user_activated();
+        if (on_modal) on_modal(form);
+    }
+    TwipsSize screen() const override { return {19200, 12000}; }
+    std::int32_t extended_style(const Form& form) const override {
+        const auto found = styles.find(form.name());
+        return found == styles.end() ? 0x100 : found->second;
+    }
+    void set_extended_style(Form& form, std::int32_t style) override {
+        styles[form.name()] = style;
+    }
+    void bring_to_front(Form& form) override { raised.push_back(form.name()); }
+    bool reachable_when_hidden() const override { return has_icon; }
+};
+
+}  // namespace zephyne::test

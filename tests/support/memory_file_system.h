@@ -1,0 +1,92 @@
+// A whole file system in memory, in either path style, with faults at the turn of a knob.
+//
+// It follows the rules of the port to the letter: a path is found as written, else by its one
+// match without regard to case, folder by folder. Folders are listed in the order in which their
+// members were added. Meant for tests; a hundred thousand files are no burden.
+//
+//     MemoryFileSystem files(PathStyle::posix, "/home/clara/music");
+//     files.add_file("/home/clara/music/waltz.mid", waltz);
+//     files.deny("/home/clara/secret");
+#pragma once
+
+#include "core/ports/file_system.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zephyne {
+
+enum class FileKind { ordinary, pipe, dangling_link };
+enum class Visibility { shown, hidden };
+
+class MemoryFileSystem final : public FileSystem {
+  public:
+    // With the current folder, and as long as no other is added one volume: "/" or the drive of
+    // the current folder.
+    MemoryFileSystem(PathStyle style, std::string current_folder);
+    ~MemoryFileSystem() override;
+
+    // Building the world. Paths are absolute, or relative to the current folder, and taken
+    // exactly as written; missing folders on the way are made. Adding a file that is there
+    // replaces its contents.
+    void add_file(std::string_view path, std::string contents = {},
+                  FileKind kind = FileKind::ordinary, Visibility visibility = Visibility::shown);
+    void add_folder(std::string_view path, Visibility visibility = Visibility::shown);
+    void add_volume(std::string root, std::string name, std::string label = {});
+    void remove(std::string_view path);  // a file, a folder with all in it, or a volume
+    void set_current_folder(std::string_view path);
+
+    // Looking at it. A path is taken exactly as written.
+    bool exists(std::string_view path) const;
+    std::optional<std::string> contents(std::string_view path) const;
+
+    // Faults. Those of a path stay until allow(path).
+    void deny(std::string_view path);          // reading, listing and writing: no permission
+    void deny_writing(std::string_view path);  // a file's contents, or new files in a folder
+    void hold_open(std::string_view path);     // "File already open" on every attempt to open it
+    void vanish(std::string_view path);        // still listed, but not there when it is opened
+    void allow(std::string_view path);
+    void fail_write_number(int number);  // that write from now on, counted from 1; one fault only
+    void fail_next_close();
+
+    // How many files were opened so far, for reading or writing, or tried to be.
+    int open_count() const { return open_count_; }
+
+    PathStyle path_style() const override { return style_; }
+    std::string current_folder() const override { return current_folder_; }
+    std::vector<Volume> volumes() const override;
+    FileResult<std::vector<std::string>> list_files(const std::string& folder) const override;
+    FileResult<std::vector<std::string>> list_folders(const std::string& folder) const override;
+    FileResult<std::string> resolve(const std::string& path) const override;
+    FileResult<void> check_readable(const std::string& path) const override;
+    FileResult<std::string> read_file(const std::string& path, std::size_t limit) const override;
+    FileResult<std::unique_ptr<OutputFile>> create_file(const std::string& path) override;
+
+  private:
+    struct Node;
+    class Output;
+    using NodePtr = std::shared_ptr<Node>;
+    enum class Members { files, folders };
+
+    std::vector<std::string> parts_of(std::string_view path) const;
+    std::string path_of(const std::vector<std::string>& parts) const;
+    Node* exactly(std::string_view path) const;
+    Node& must_exist(std::string_view path) const;
+    Node& folder_for(const std::vector<std::string>& parts);
+    FileResult<Node*> find(const std::string& path) const;
+    FileResult<Node*> open_for_reading(const std::string& path) const;
+    FileResult<std::vector<std::string>> list(const std::string& folder, Members which) const;
+
+    PathStyle style_;
+    NodePtr top_;  // holds the drives, in the posix style the root folder as the only one
+    std::string current_folder_;
+    std::vector<Volume> volumes_;
+    int writes_until_failure_ = 0;
+    bool close_fails_ = false;
+    mutable int open_count_ = 0;
+};
+
+}  // namespace zephyne

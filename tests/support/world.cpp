@@ -1,0 +1,87 @@
+#include "tests/support/world.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace zephyne::test {
+
+World::World(std::initializer_list<std::string> songs, PathStyle style)
+    : folder(style == PathStyle::posix ? "/music" : "C:\\music"),
+      program_folder(style == PathStyle::posix ? "/zephyne" : "C:\\zephyne"),
+      files(style, folder),
+      form(files, scheduler),
+      device(scheduler, files, form.MMControl1, {midi, wave, video}),
+      stage{program, form, tray, device, files, pump, messages, beeper, random} {
+    for (const std::string& song : songs) files.add_file(path(song));
+    for (const char* name : {"gm_reset.aut", "xg_reset.aut", "gs_reset.aut"}) {
+        files.add_file(joined(program_folder, name, style));
+    }
+    program.folders.own = program_folder;
+    program.ResetFilePresent = true;
+    program.StartFolder = folder;
+    engine = std::make_unique<Engine>(stage);
+    device.start_status_updates(500);
+}
+
+std::string World::path(const std::string& name) const {
+    return joined(folder, name, files.path_style());
+}
+
+void World::open_folder() {
+    settings().Mode = PlayMode::Manual;
+    form.Timer5.set_enabled(true);
+    engine->songs.refreshfiles();
+}
+
+void World::start(std::int32_t mode) {
+    open_folder();
+    settings().Mode = mode;
+    engine->order.RefillAndPlayNext();
+}
+
+void World::click(const std::string& name) {
+    const auto& items = form.File1.items();
+    for (std::size_t row = 0; row < items.size(); ++row) {
+        if (items[row].text == name || items[row].real() == name) return form.File1.click(row);
+    }
+    ADD_FAILURE() << name << " is not in the list";
+}
+
+std::vector<std::string> World::played() {
+    std::vector<std::string> songs;
+    for (; played_up_to_ < log.size(); ++played_up_to_) {
+        std::string line = log[played_up_to_];
+        for (const char* device_name : {"wave: ", "video: "}) {
+            if (line.starts_with(device_name)) line.erase(0, std::string(device_name).size());
+        }
+        const bool starts = line.starts_with("play ") && line.find(" from ") == std::string::npos;
+        if (starts && !line.ends_with(".aut")) songs.push_back(line.substr(5));
+    }
+    return songs;
+}
+
+Log World::happened() {
+    Log lines(log.begin() + static_cast<std::ptrdiff_t>(happened_up_to_), log.end());
+    happened_up_to_ = log.size();
+    return lines;
+}
+
+std::vector<std::string> World::names(const ListBox& list) {
+    std::vector<std::string> names;
+    for (const ListItem& item : list.items()) names.push_back(item.text);
+    return names;
+}
+
+void World::expect_flags_at_rest() const {
+    EXPECT_FALSE(program.SwitchingSong);
+    EXPECT_FALSE(program.AutoStarting);
+    EXPECT_FALSE(program.StartingUp);
+    EXPECT_FALSE(program.SliderSync);
+    EXPECT_FALSE(program.SliderDragging);
+    EXPECT_FALSE(program.FindSync);
+    EXPECT_FALSE(program.DisplayBusy);
+    EXPECT_FALSE(program.DelayActive);
+}
+
+}  // namespace zephyne::test

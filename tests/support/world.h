@@ -1,0 +1,82 @@
+// A whole player in a small world: a folder of songs, a device that plays in virtual time, and a
+// log of what happened, in order.
+#pragma once
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/program.h"
+#include "core/sheets/form1.h"
+#include "core/sheets/tray_form.h"
+#include "engine/engine.h"
+#include "engine/media_device.h"
+#include "engine/stage.h"
+#include "tests/support/fakes.h"
+#include "tests/support/memory_file_system.h"
+#include "tests/support/simulated_backend.h"
+#include "tests/support/virtual_time.h"
+
+namespace zephyne::test {
+
+class World {
+  public:
+    // Songs are file names; they lie in `folder`, which is also the current folder. The program
+    // itself, with its three reset sequences, lies in /zephyne or C:\zephyne.
+    explicit World(std::initializer_list<std::string> songs, PathStyle style = PathStyle::posix);
+
+    std::string folder;  // "/music" or "C:\music"
+    std::string program_folder;
+    std::string path(const std::string& name) const;
+
+    Log log;
+    VirtualClock clock;
+    Scheduler scheduler{clock};
+    VirtualPump pump{clock, scheduler};
+    MemoryFileSystem files;
+    Program program;
+    Form1 form;
+    TrayForm tray;
+    SimulatedBackend midi{"", clock, scheduler, log};
+    SimulatedBackend wave{"wave: ", clock, scheduler, log};
+    SimulatedBackend video{"video: ", clock, scheduler, log};
+    MediaDevice device;
+    ScriptedMessages messages{log};
+    LoggedBeeper beeper{log};
+    ScriptedRandom random;
+    Stage stage;
+    std::unique_ptr<Engine> engine;
+
+    Settings& settings() { return program.settings; }
+
+    // As after the normal start in Manual mode: the list is filled, nothing plays.
+    void open_folder();
+
+    // Starts the mode's cycle, as at start-up.
+    void start(std::int32_t mode);
+
+    // Clicks a song in the list.
+    void click(const std::string& name);
+
+    void run_for(Milliseconds duration) { pump.run_for(duration); }
+
+    // The songs that began to play from their start, without the reset sequences, since the last
+    // call.
+    std::vector<std::string> played();
+
+    // Everything in the log since the last call.
+    Log happened();
+
+    // The names in a list.
+    static std::vector<std::string> names(const ListBox& list);
+
+    // Fails the test when a guard flag is still set.
+    void expect_flags_at_rest() const;
+
+  private:
+    std::size_t played_up_to_ = 0;
+    std::size_t happened_up_to_ = 0;
+};
+
+}  // namespace zephyne::test
