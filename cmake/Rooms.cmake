@@ -13,8 +13,8 @@ function(zephyne_room folder)
   cmake_parse_arguments(ROOM "" "" "USES;EXCEPT" ${ARGN})
   string(REPLACE "/" "_" name ${folder})
 
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${folder}/*.cpp
-                                              ${CMAKE_SOURCE_DIR}/${folder}/*.h)
+  set(here ${CMAKE_SOURCE_DIR}/${folder})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${here}/*.cpp ${here}/*.h ${here}/*.qrc)
   foreach(subfolder IN LISTS ROOM_EXCEPT)
     list(FILTER sources EXCLUDE REGEX "^${CMAKE_SOURCE_DIR}/${folder}/${subfolder}/")
   endforeach()
@@ -35,6 +35,7 @@ function(zephyne_room folder)
   endforeach()
 
   add_library(zephyne_${name} STATIC ${sources})
+  set_target_properties(zephyne_${name} PROPERTIES AUTORCC ON)
   target_include_directories(zephyne_${name} PUBLIC ${visible})
   target_link_libraries(zephyne_${name} PUBLIC ${libraries} PRIVATE zephyne_warnings)
 endfunction()

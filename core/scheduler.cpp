@@ -92,7 +92,8 @@ std::optional<Milliseconds> RepeatingTimer::due() const {
 
 void RepeatingTimer::fire() {
     // Ticks keep their rhythm while they are on time; after a delay a new rhythm begins.
-    next_ = std::max(next_ + interval_, now() + 1);
+    next_ += interval_;
+    if (next_ <= now()) next_ = now() + interval_;
     const auto tick = on_tick;  // a copy: the handler may destroy the timer
     if (tick) tick();
 }

@@ -1,8 +1,9 @@
 // Everything that happens by itself: timers, and events queued by devices and other programs.
 //
 // One scheduler serves the whole program, on the user-interface thread. The platform's event loop
-// gives it one wake-up (set_wake_up) and calls dispatch_due() when that comes; tests do the same
-// with a clock of their own, so that hours pass in microseconds.
+// gives it one wake-up (set_wake_up) and calls dispatch_due() when that comes, having armed it anew
+// first, because a handler may run an event loop of its own; tests do the same with a clock of
+// their own, so that hours pass in microseconds.
 //
 // Re-entrancy is settled here, once. A handler may let pending events run (EventPump), and so may
 // the handlers that run then. Meanwhile any other source may fire, but a source whose handler is

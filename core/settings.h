@@ -62,6 +62,8 @@ struct Settings {
     std::int32_t SavedMode = 0;
     std::int16_t SavedShowBar = 0;
     std::int16_t SavedShowTray = 0;
+
+    bool operator==(const Settings&) const = default;
 };
 
 }  // namespace zephyne

@@ -4,6 +4,7 @@
 #include "core/text/numbers.h"
 #include "core/text/utf8.h"
 
+#include <cmath>
 #include <functional>
 #include <string_view>
 #include <utility>
@@ -67,7 +68,7 @@ void assign(Settings& settings, const Field& field, double value) {
         if (const auto fits = to_int16(value)) settings.** narrow = *fits;
     } else if (const auto* wide = std::get_if<std::int32_t Settings::*>(&field)) {
         if (const auto fits = to_int32(value)) settings.** wide = *fits;
-    } else {
+    } else if (std::isfinite(value)) {
         settings.*std::get<double Settings::*>(field) = value;
     }
 }
@@ -188,11 +189,19 @@ std::string mode_word(std::int32_t mode) {
     }
 }
 
+// A folder whose name has a line break cannot be kept: its second line would pass for a setting.
+std::string one_line(const std::string& text) {
+    return text.find_first_of("\r\n") == std::string::npos ? text : std::string();
+}
+
 std::vector<std::string> lines_of(const Settings& settings, const Form1& form) {
     std::vector<std::string> lines;
     const auto add = [&](std::string line) { lines.push_back(std::move(line)); };
     const auto add_value = [&](std::string_view key, const std::string& value) {
         lines.push_back(std::string(key) + "=" + value);
+    };
+    const auto add_text = [&](std::string_view key, const std::string& text) {
+        if (const std::string value = one_line(text); !value.empty()) add_value(key, value);
     };
     const auto add_number = [&](const Key& key) {
         add_value(key.name, written(settings, key.field));
@@ -205,8 +214,8 @@ std::vector<std::string> lines_of(const Settings& settings, const Form1& form) {
     for (const Key& key : window_keys()) add_number(key);
     add("");
     add("[Directories]");
-    add_value("LastDir", form.Dir1.path());
-    if (!settings.MoveToDir.empty()) add_value("MoveToDir", settings.MoveToDir);
+    add_value("LastDir", one_line(form.Dir1.path()));
+    add_text("MoveToDir", settings.MoveToDir);
     add("");
     add("[Options]");
     add_number(kBeeps);
@@ -221,11 +230,8 @@ std::vector<std::string> lines_of(const Settings& settings, const Form1& form) {
     add_number(kPresetPathOnly);
     for (std::size_t i = 0; i < settings.PresetPath.size(); ++i) {
         const std::string number = two_digits(static_cast<std::int64_t>(i) + 1);
-        const auto add_text = [&](std::string_view key, const std::string& text) {
-            if (!text.empty()) add_value(std::string(key) + number, text);
-        };
-        add_text("PresetPath", settings.PresetPath[i]);
-        add_text("PresetFileName", settings.PresetFileName[i]);
+        add_text("PresetPath" + number, settings.PresetPath[i]);
+        add_text("PresetFileName" + number, settings.PresetFileName[i]);
     }
     return lines;
 }

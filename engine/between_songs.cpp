@@ -34,33 +34,40 @@ BetweenSongs::BetweenSongs(Stage& stage, TimeDisplay& display) : stage_(stage), 
     };
 }
 
-void BetweenSongs::AutoDelayPause() {
+bool BetweenSongs::AutoDelayPause() {
     const double seconds = stage_.settings().AutoDelayTime;
     const auto wanted = static_cast<Milliseconds>(
-        round_half_even(std::min(seconds * 1000, static_cast<double>(kLongestPause))));
-    if (wanted <= 0) return;
+        round_half_even(std::clamp(seconds * 1000, 0.0, static_cast<double>(kLongestPause))));
+    if (wanted == 0) return true;
 
     Form1& f = stage_.form;
+    MediaDevice& device = stage_.device;
     f.Timer1.set_interval(wanted);
     stage_.program.DelayDone = false;
-    stage_.device.command(DeviceCommand::Close);
-    stage_.device.set_transport_enabled(false);
+    device.command(DeviceCommand::Close);
+    device.set_transport_enabled(false);
     disable(file_commands(f));
-    disable(std::array<Control*, 8>{&f.Command1, &f.Command3, &f.Frame2, &f.Command7, &f.Command9,
-                                    &f.Drive1, &f.Dir1, &f.File1});
+    disable(std::array<Control*, 9>{&f.Command1, &f.Command3, &f.Frame2, &f.Command7, &f.Command9,
+                                    &f.Drive1, &f.Dir1, &f.File1, &f.SSCommand1});
     f.Command6.set_caption("Cancel Dly");
     f.set_title("Delaying " + decimal(seconds) + " Second(s)...");
 
     stage_.program.DelayActive = true;
     f.Timer1.set_enabled(true);
-    while (!stage_.program.DelayDone && !stage_.program.Ending) stage_.events.wait();
+    const auto over = [&] {
+        return stage_.program.DelayDone || stage_.program.Ending || device.is_open();
+    };
+    while (!over()) stage_.events.wait();
+    f.Timer1.set_enabled(false);
 
     enable(std::array<Control*, 3>{&f.Command1, &f.Command3, &f.Frame2});
     if (stage_.settings().Playlist == 0) enable(file_commands(f));
-    enable(std::array<Control*, 5>{&f.Command7, &f.Command9, &f.Drive1, &f.Dir1, &f.File1});
+    enable(std::array<Control*, 6>{&f.Command7, &f.Command9, &f.Drive1, &f.Dir1, &f.File1,
+                                   &f.SSCommand1});
     f.Command6.set_caption("Reset List");
-    stage_.device.set_transport_enabled(true);
+    device.set_transport_enabled(true);
     stage_.program.DelayActive = false;
+    return !stage_.program.Ending && !device.is_open();
 }
 
 void BetweenSongs::cancel_delay() {
@@ -97,8 +104,8 @@ void BetweenSongs::play_reset_sequence() {
         device.Wait = true;
         device.command(DeviceCommand::Stop);
         device.command(DeviceCommand::Close);
-        device.Type = DeviceType::Sequencer;
     }
+    device.Type = DeviceType::Sequencer;
     stage_.program.SwitchingSong = true;
     device.Notify = false;
     device.Wait = true;
@@ -129,7 +136,7 @@ void BetweenSongs::EnableControls(Reselect reselect) {
     Form1& f = stage_.form;
     const FlagGuard emptying(stage_.program.FindSync);
     f.text2.set_text("");
-    if (f.Command1.enabled()) return;
+    if (f.Command1.enabled() || stage_.program.DelayActive) return;  // the pause unlocks by itself
     enable(std::array<Control*, 3>{&f.Command1, &f.Command6, &f.Frame2});
     if (stage_.settings().Playlist == 0) enable(file_commands(f));
     enable(std::array<Control*, 8>{&f.Command8, &f.Command15, &f.Command16, &f.Command17, &f.File1,
@@ -137,11 +144,16 @@ void BetweenSongs::EnableControls(Reselect reselect) {
     if (reselect == Reselect::yes) select_current_song();
 }
 
+// Of names that differ only in case, the one whose file is the current song's.
 void BetweenSongs::select_current_song() {
+    const Program& program = stage_.program;
     const auto& songs = stage_.form.File1.items();
-    const auto found = std::find_if(songs.begin(), songs.end(), [&](const ListItem& song) {
-        return equal_ignoring_case(song.text, stage_.program.CurrentSongName);
-    });
+    const std::string file = split_path(program.CurrentSongPath, stage_.files.path_style()).name;
+    auto found = songs.end();
+    for (auto song = songs.begin(); song != songs.end(); ++song) {
+        if (!equal_ignoring_case(song->text, program.CurrentSongName)) continue;
+        if (found == songs.end() || song->real() == file) found = song;
+    }
     if (found == songs.end()) return;
     const FlagGuard switching(stage_.program.SwitchingSong);
     stage_.form.File1.set_selected(static_cast<std::size_t>(found - songs.begin()));

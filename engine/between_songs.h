@@ -16,8 +16,9 @@ class BetweenSongs {
 
     // Waits AutoDelayTime seconds, 60 at most, or until cancel_delay(). Meanwhile events are
     // handled, "Reset List" reads "Cancel Dly", and whatever could start a song is disabled. A
-    // time of 0 or less is no pause.
-    void AutoDelayPause();
+    // time of 0 or less is no pause. False when the caller must not go on: the program ends, or a
+    // song has been started meanwhile.
+    bool AutoDelayPause();
     void cancel_delay();
 
     // Stops and closes the device, and plays the reset sequence when that is switched on and its

@@ -80,13 +80,14 @@ bool HandOverPoll::show_folder_of(std::string& path, bool& moved, std::string& n
     const auto folder = stage_.files.resolve(split.folder);
     moved = !folder || *folder != f.Dir1.path();
     if (!moved) return true;
-    const FlagGuard switching(program.SwitchingSong);
-    (void)f.Drive1.set_drive_of(split.folder);
-    if (const auto shown = f.Dir1.set_path(split.folder); !shown) {
-        tell("Error - " + shown.error().description);
-        return false;
+    f.Drive1.refresh();  // the folder may lie on a drive that is new
+    FileResult<void> shown;
+    {
+        const FlagGuard switching(program.SwitchingSong);
+        shown = f.Dir1.set_path(split.folder);
     }
-    return true;
+    if (!shown) tell("Error - " + shown.error().description);
+    return shown.has_value();
 }
 
 void HandOverPoll::play_from_folder(std::string path) {

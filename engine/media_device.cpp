@@ -105,6 +105,7 @@ void MediaDevice::play(bool notify, bool wait) {
     if (!open_) return;
     if (notify_at_end_ && notify) post_done(NotifyCode::superseded);
     notify_at_end_ = notify;
+    at_end_ = false;
     if (from) {
         open_->play_from(*from);
     } else {
@@ -117,6 +118,7 @@ void MediaDevice::play(bool notify, bool wait) {
 
 void MediaDevice::finished(const MediaBackend& backend, NotifyCode code) {
     if (open_ != &backend) return;
+    at_end_ = code == NotifyCode::successful;
     light_key();
     if (std::exchange(notify_at_end_, false)) post_done(code);
 }
@@ -178,14 +180,26 @@ void MediaDevice::open_to_play(const std::string& path) {
     command(DeviceCommand::Open);
 }
 
-bool MediaDevice::start(Milliseconds from, EventPump& events) {
+PlayResult MediaDevice::start(Milliseconds from, EventPump& events) {
     if (from != 0) From = from;
     Notify = true;
     Wait = false;
     command(DeviceCommand::Play);
+    return settle(events);
+}
+
+PlayResult MediaDevice::play_again(EventPump& events) {
+    command(DeviceCommand::Play);
+    return settle(events);
+}
+
+PlayResult MediaDevice::settle(EventPump& events) {
+    const unsigned opening = opened_;
     events.pump();
     if (Mode() != DeviceMode::playing) events.pump();
-    return Mode() == DeviceMode::playing;
+    if (opening != opened_ || Mode() == DeviceMode::paused) return PlayResult::overtaken;
+    const bool plays = Mode() == DeviceMode::playing || (is_open() && at_end_);
+    return plays ? PlayResult::plays : PlayResult::does_not_play;
 }
 
 void MediaDevice::StopAndClose() {
@@ -239,11 +253,13 @@ void MediaDevice::SeekPercent(int percent, EventPump& events) {
         command(DeviceCommand::Play);
         command(DeviceCommand::Pause);
     } else if (Mode() == DeviceMode::playing) {
+        const unsigned opening = opened_;
         set_transport_enabled(false);
         command(DeviceCommand::Stop);
         events.pump();
-        From = target;
         events.pump();
+        if (opening != opened_) return;  // the place is in a file that is gone
+        From = target;
         command(DeviceCommand::Play);
         set_transport_enabled(true);
     }

@@ -26,6 +26,10 @@ enum class DeviceType { Sequencer, WaveAudio, AVIVideo };
 enum class DeviceCommand { Open, Play, Pause, Stop, Close };
 enum class NotifyCode { successful = 1, superseded = 2, aborted = 4, failed = 8 };
 
+// What has become of a Play once events have run. A song that is over by then has played, too.
+// Overtaken: meanwhile another file has been opened, or this one closed or paused.
+enum class PlayResult { plays, does_not_play, overtaken };
+
 // What plays a file, by its extension; nothing when it is not playable.
 std::optional<DeviceType> device_type_of(std::string_view path);
 
@@ -72,8 +76,9 @@ class MediaDevice {
     std::function<void(TransportKey, bool& cancel)> on_key;
 
     // Recipes.
-    void open_to_play(const std::string& path);        // ready to play; read Length() now
-    bool start(Milliseconds from, EventPump& events);  // false: it does not play
+    void open_to_play(const std::string& path);  // ready to play; read Length() now
+    PlayResult start(Milliseconds from, EventPump& events);
+    PlayResult play_again(EventPump& events);  // from where it is
     void StopAndClose();
     void PauseDevice();
     void ResumeDevice();
@@ -81,10 +86,15 @@ class MediaDevice {
     void ReloadPaused(const std::string& path);        // whatever is open makes room for it
     void SeekPercent(int percent, EventPump& events);  // 0..100
 
+    // Changes whenever a file is opened or closed, so that whoever lets events run can tell
+    // afterwards whether the device still holds the same one.
+    unsigned opening() const { return opened_; }
+
   private:
     MediaBackend& backend_for(DeviceType type) const;
     void open();
     void play(bool notify, bool wait);
+    PlayResult settle(EventPump& events);
     void finished(const MediaBackend& backend, NotifyCode code);
     void post_done(NotifyCode code);
     void key_pressed(TransportKey key);
@@ -95,6 +105,7 @@ class MediaDevice {
     MediaBackends backends_;
     MediaBackend* open_ = nullptr;
     bool notify_at_end_ = false;
+    bool at_end_ = false;  // the file has played to its end
     bool shut_down_ = false;
     unsigned opened_ = 0;  // how many files have been opened or closed; marks each Done
     EventQueue done_queue_;

@@ -25,7 +25,7 @@ PlayOrder::PlayOrder(Stage& stage, TimeDisplay& display, BetweenSongs& between, 
     : stage_(stage), display_(display), between_(between), player_(player) {
     stage_.form.Command9.set_on_click([this] { Command9_Click(); });
     stage_.form.Command6.set_on_click([this] { Command6_Click(); });
-    stage_.form.Command19.set_on_click([this] { play_next_queued(); });
+    stage_.form.Command19.set_on_click([this] { Command19_Click(); });
 }
 
 void PlayOrder::go_on() {
@@ -83,18 +83,19 @@ std::size_t PlayOrder::choose() const {
 }
 
 // Moves OrderIndex on, `count` being the number of songs before the chosen one is taken out.
-void PlayOrder::advance_after(std::size_t count) {
+void PlayOrder::advance_after(std::size_t chosen, std::size_t count) {
     const Settings& settings = stage_.settings();
-    std::int32_t& index = stage_.program.OrderIndex;
+    std::int32_t& next = stage_.program.OrderIndex;
+    const auto index = static_cast<std::int32_t>(chosen);
     const auto last = static_cast<std::int32_t>(count) - 1;
     if (settings.Continuous == 1 && settings.Mode != PlayMode::Random) {
         if (runs_backwards(settings)) {
-            index = index - 1 < 0 ? last : index - 1;
+            next = index == 0 ? last : index - 1;
         } else {
-            index = index + 1 > last ? 0 : index + 1;
+            next = index == last ? 0 : index + 1;
         }
     } else if (settings.Continuous != 1 && runs_backwards(settings)) {
-        index = last - 1;
+        next = last - 1;
     }
 }
 
@@ -124,7 +125,7 @@ void PlayOrder::PlayNextSong() {
     if (f.List1.empty() || f.File1.empty()) return;
 
     const std::size_t index = choose();
-    advance_after(f.List1.count());
+    advance_after(index, f.List1.count());
     const ListItem entry = f.List1.item(index);
     const bool playlist = stage_.settings().Playlist == 1;
     const auto [name, folder] = split_entry_line(entry.text);
@@ -134,18 +135,19 @@ void PlayOrder::PlayNextSong() {
         show_remaining();
     }
 
+    const FlagGuard starting(program.AutoStarting);
     program.SwitchingSong = true;
     stage_.device.set_transport_enabled(false);
+    f.Drive1.set_enabled(false);  // PlayFile enables them again
+    f.Dir1.set_enabled(false);
     select_in_list(entry);
-    const std::string path =
+    program.CurrentSongPath =
         playlist ? joined(std::string(folder), program.CurrentSongName, stage_.files.path_style())
                  : joined(f.Dir1.path(), entry.real(), stage_.files.path_style());
     stage_.events.pump();
-    program.CurrentSongPath = path;
     display_.rewind_slider();
     program.SwitchingSong = false;
 
-    const FlagGuard starting(program.AutoStarting);
     if (song_kind(program.CurrentSongName) == SongKind::midi) between_.ResetSynth();
     player_.PlayFile();
     if (!program.Ending) stage_.device.set_transport_enabled(true);
@@ -169,6 +171,11 @@ void PlayOrder::play_next_queued() {
         stage_.device.set_transport_enabled(true);
         return;
     }
+}
+
+void PlayOrder::Command19_Click() {
+    // While the song that ended is being reset the queue is about to be served anyway.
+    if (!stage_.program.SwitchingSong) play_next_queued();
 }
 
 void PlayOrder::Command9_Click() {

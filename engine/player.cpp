@@ -20,7 +20,7 @@ void Player::PlayFile() {
     Program& program = stage_.program;
     Form1& f = stage_.form;
     const SongServices& services = stage_.services;
-    if (program.Ending) return;
+    if (program.Ending || stage_.device.is_open()) return;
     const bool from_start = program.ResumePosition == 0;
     const std::string path = program.CurrentSongPath;
 
@@ -31,6 +31,7 @@ void Player::PlayFile() {
     f.Drive1.set_enabled(false);
     f.Dir1.set_enabled(false);
     const auto let_choose = [&] {
+        program.ResumePosition = 0;
         f.Drive1.set_enabled(true);
         f.Dir1.set_enabled(true);
     };
@@ -48,15 +49,16 @@ void Player::PlayFile() {
     stage_.device.open_to_play(path);
     f.Label6.set_caption(length_text(stage_.device.Length()));
     display_.forget_digits();
-    if (!stage_.device.start(program.ResumePosition, stage_.events)) {
-        if (program.Ending) return;
+    const PlayResult result = stage_.device.start(program.ResumePosition, stage_.events);
+    if (program.Ending) return;
+    if (result == PlayResult::overtaken) return let_choose();
+    if (result == PlayResult::does_not_play) {
         stage_.messages.ShowDlgMessage(
             "Error - MCI Device may be in use or file may be corrupt or have been deleted.", 0,
             "Error");
         f.set_title("Zephyne");
         display_.ClearTimeDisplay();
         stage_.events.pump();
-        program.ResumePosition = 0;
         return let_choose();
     }
 
@@ -72,7 +74,6 @@ void Player::PlayFile() {
     if (from_start && stage_.settings().Extended == 1 && services.getsonginfo) {
         services.getsonginfo();
     }
-    program.ResumePosition = 0;
     let_choose();
 }
 
@@ -113,6 +114,13 @@ void Player::show_playing() {
     stage_.form.Label6.set_caption(length_text(stage_.device.Length()));
 }
 
+void Player::show_waiting() {
+    if (!stage_.shows_tray()) return;
+    stage_.tray.mnuPause.caption = "Pause";
+    stage_.tray.mnuPause.enabled = false;
+    stage_.tray.mnuStop.caption = "Play";
+}
+
 bool Player::song_still_there() {
     Program& program = stage_.program;
     if (stage_.files.check_readable(program.CurrentSongPath)) return true;
@@ -132,8 +140,7 @@ void Player::Done(NotifyCode code) {
     display_.ClearTimeDisplay();
     if (program.settings.Mode == PlayMode::Queue) return end_in_queue();
 
-    if (program.settings.AutoDelay != 0) between_.AutoDelayPause();
-    if (program.Ending) return;
+    if (program.settings.AutoDelay != 0 && !between_.AutoDelayPause()) return;
     between_.EnableControls(Reselect::no);
     if (program.settings.AutoRepeat == 1) return restart();
     if (program.settings.Mode == PlayMode::Manual) return end_in_manual();
@@ -141,7 +148,7 @@ void Player::Done(NotifyCode code) {
     next_.go_on();
 }
 
-// Common to the ends at which the song stays: the reset before it is opened again, and the tray.
+// Opens the song that has ended once more; it waits for the Play key.
 void Player::wait_at_start() {
     stage_.device.open_paused(stage_.program.CurrentSongPath);
     stage_.form.set_title("Zephyne");
@@ -155,18 +162,14 @@ void Player::end_in_queue() {
     display_.rewind_slider();
     const bool midi = song_kind(program.CurrentSongPath) == SongKind::midi;
     if (midi) between_.ResetSynth();
-    if (stage_.shows_tray()) {
-        stage_.tray.mnuPause.caption = "Pause";
-        stage_.tray.mnuPause.enabled = false;
-        stage_.tray.mnuStop.caption = "Play";
-    }
+    show_waiting();
     if (!midi) {
         device.Notify = false;
         device.Wait = true;
         device.command(DeviceCommand::Close);
-        stage_.events.pump();
         device.Type = device_type_of(program.CurrentSongPath).value_or(DeviceType::Sequencer);
     }
+    if (device.is_open()) return;  // by a song that has been started meanwhile
     if (!song_still_there()) return;
     wait_at_start();
     display_.rewind_slider();
@@ -175,12 +178,11 @@ void Player::end_in_queue() {
 
 void Player::end_in_manual() {
     display_.rewind_slider();
-    if (song_kind(stage_.program.CurrentSongName) == SongKind::midi) between_.ResetSynth();
-    if (stage_.shows_tray()) {
-        stage_.tray.mnuPause.caption = "Pause";
-        stage_.tray.mnuPause.enabled = false;
-        stage_.tray.mnuStop.caption = "Play";
+    if (song_kind(stage_.program.CurrentSongName) == SongKind::midi) {
+        between_.ResetSynth();
+        if (stage_.device.is_open()) return;  // by a song that has been started meanwhile
     }
+    show_waiting();
     if (!song_still_there()) return;
     wait_at_start();
     display_.StopAnimation();
@@ -213,8 +215,7 @@ void Player::preview_clock() {
     if (stage_.program.PausedByUser) return;
     if (seconds % 60 <= stage_.settings().PreviewTime && seconds < 60) return;
     StopDevice();
-    if (stage_.settings().AutoDelay != 0) between_.AutoDelayPause();
-    if (stage_.program.Ending) return;
+    if (stage_.settings().AutoDelay != 0 && !between_.AutoDelayPause()) return;
     next_.go_on();
 }
 

@@ -23,8 +23,9 @@ class Player {
   public:
     Player(Stage& stage, TimeDisplay& display, BetweenSongs& between, NextSong& next);
 
-    // Plays CurrentSongPath from ResumePosition. A file that is no song is passed over silently;
-    // one that does not play is reported to the user, and the player is idle.
+    // Plays CurrentSongPath from ResumePosition, on a device that is closed; where it is open, a
+    // song has been started while events ran, and that one stays. A file that is no song is passed
+    // over silently; one that does not play is reported to the user, and the player is idle.
     void PlayFile();
 
     // Stops and closes the device; unless a song is being switched the displays are emptied, too.
@@ -35,6 +36,9 @@ class Player {
 
     // Shows "Playing" and the length, as after every start.
     void show_playing();
+
+    // In the tray: the song waits at its start.
+    void show_waiting();
 
     // Whether the current song's file can still be read; if not, the user is told and the player
     // is idle, without a current song.

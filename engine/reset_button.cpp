@@ -11,6 +11,7 @@ ResetButton::ResetButton(Stage& stage, BetweenSongs& between, Player& player)
 
 void ResetButton::SSCommand1_Click() {
     Program& program = stage_.program;
+    if (program.SwitchingSong || program.AutoStarting) return;  // a song is on its way
     between_.EnableControls(Reselect::yes);
     if (!program.ResetFilePresent) return;
     program.SwitchingSong = true;

@@ -104,10 +104,12 @@ void SongList::Dir1_Change() {
 void SongList::Drive1_Change() {
     Form1& f = stage_.form;
     if (f.Dir1.set_path(f.Drive1.drive().root)) return;
+    // Where the program itself moves the lists, it knows what to say.
+    if (stage_.program.SwitchingSong) return f.Drive1.follow(f.Dir1.path());
     if (std::exchange(recovering_, true)) return;
     stage_.messages.ShowDlgMessage("Error - Drive May Be Unavailable.", 0, "Drive Error");
     (void)f.Drive1.set_drive_of(stage_.program.StartFolder);
-    (void)f.Dir1.set_path(f.Drive1.drive().root);
+    if (!f.Dir1.set_path(f.Drive1.drive().root)) f.Drive1.follow(f.Dir1.path());
     recovering_ = false;
 }
 
@@ -151,6 +153,7 @@ void SongList::File1_Click() {
         player_.StopDevice();
         program.SwitchingSong = false;
         stage_.device.Type = DeviceType::Sequencer;
+        f.Label13.set_caption("");  // the clock writes it no sooner than at the first percent
         display_.rewind_slider();
     }
     program.PausedByUser = false;

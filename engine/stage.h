@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace zephyne {
 
@@ -39,16 +40,18 @@ struct Stage {
     bool shows_tray() const { return program.settings.ShowTray == 1; }
 };
 
-// Sets a flag for as long as it lives; for steps in which every way out clears it.
+// Sets a flag for as long as it lives; for steps in which every way out clears it. A step inside a
+// step that has set the same flag leaves it set.
 class FlagGuard {
   public:
-    explicit FlagGuard(bool& flag) : flag_(flag) { flag_ = true; }
-    ~FlagGuard() { flag_ = false; }
+    explicit FlagGuard(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
+    ~FlagGuard() { flag_ = before_; }
     FlagGuard(const FlagGuard&) = delete;
     FlagGuard& operator=(const FlagGuard&) = delete;
 
   private:
     bool& flag_;
+    bool before_;
 };
 
 }  // namespace zephyne

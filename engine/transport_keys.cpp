@@ -11,6 +11,8 @@ TransportKeys::TransportKeys(Stage& stage, TimeDisplay& display, BetweenSongs& b
                              Player& player)
     : stage_(stage), display_(display), between_(between), player_(player) {
     stage_.device.on_key = [this](TransportKey key, bool& cancel) {
+        cancel = stage_.program.SwitchingSong;
+        if (cancel) return;
         switch (key) {
             case TransportKey::play:
                 return PlayClick(cancel);
@@ -24,10 +26,9 @@ TransportKeys::TransportKeys(Stage& stage, TimeDisplay& display, BetweenSongs& b
 
 void TransportKeys::PlayClick(bool& cancel) {
     cancel = true;
-    stage_.device.command(DeviceCommand::Play);
-    stage_.events.pump();
-    stage_.events.pump();
-    if (stage_.device.Mode() != DeviceMode::playing) {
+    const PlayResult result = stage_.device.play_again(stage_.events);
+    if (result == PlayResult::overtaken) return;
+    if (result == PlayResult::does_not_play) {
         stage_.messages.ShowDlgMessage("Error - MCI Device may be in use.", 0, "Error");
         stage_.events.pump();
         return;
@@ -78,11 +79,7 @@ void TransportKeys::StopClick(bool& cancel) {
         cancel = true;
         return;
     }
-    if (stage_.shows_tray()) {
-        stage_.tray.mnuPause.caption = "Pause";
-        stage_.tray.mnuPause.enabled = false;
-        stage_.tray.mnuStop.caption = "Play";
-    }
+    player_.show_waiting();
     between_.EnableControls(Reselect::yes);
     program.PausedByUser = false;
     stage_.form.Label13.set_caption("");
@@ -91,6 +88,10 @@ void TransportKeys::StopClick(bool& cancel) {
     switch (song_kind(program.CurrentSongName)) {
         case SongKind::midi:
             between_.ResetSynth();
+            if (device.is_open()) {  // by a song that has been started meanwhile
+                cancel = true;
+                return;
+            }
             device.Type = DeviceType::Sequencer;
             break;
         case SongKind::wave:
@@ -105,12 +106,15 @@ void TransportKeys::StopClick(bool& cancel) {
     }
     if (!player_.song_still_there()) return;
     device.ReloadPaused(program.CurrentSongPath);
+    const unsigned opening = device.opening();
     stage_.form.set_title("Zephyne");
     stage_.form.Label6.set_caption("");
     display_.ClearTimeDisplay();
     display_.StopAnimation();
     display_.start_blinking(Blink::Stopped, kBlinkInterval);
     stage_.events.pump();
+    // The device must not stop what has been started meanwhile.
+    cancel = device.opening() != opening || device.Mode() == DeviceMode::playing;
 }
 
 }  // namespace zephyne

@@ -211,9 +211,7 @@ void MainWindowLayout::centre() {
 void MainWindowLayout::Form_Resize() {
     Form1& f = stage_.form;
     if (f.state() != WindowState::normal) {
-        if (stage_.settings().ShowBar == 0 && windows_.reachable_when_hidden()) {
-            f.set_visible(false);
-        }
+        if (stage_.settings().ShowBar == 0) put_away();
         return;
     }
     Place place = f.place();
@@ -227,13 +225,19 @@ void MainWindowLayout::Form_Resize() {
 }
 
 void MainWindowLayout::put_away() {
+    Form1& f = stage_.form;
+    const Program& program = stage_.program;
     if (windows_.reachable_when_hidden()) {
-        stage_.form.set_visible(false);
+        f.set_visible(false);
+        // A button that stood in for the icon is needed no longer.
+        if (stage_.settings().ShowBar == 0) windows_.set_extended_style(f, program.NormalExStyle);
         return;
     }
-    windows_.set_extended_style(stage_.form, stage_.program.TaskbarExStyle);
-    stage_.form.set_visible(true);
-    stage_.form.set_state(WindowState::minimized);
+    if (windows_.extended_style(f) != program.TaskbarExStyle) {
+        show_with_style(program.TaskbarExStyle);
+    }
+    f.set_visible(true);
+    f.set_state(WindowState::minimized);
 }
 
 }  // namespace zephyne

@@ -28,7 +28,7 @@ class MainWindowLayout {
     void centre();
 
     // The window's size or state was changed from outside: the size is the layout's again; a
-    // window without a taskbar button hides when minimised, if it can be reached then.
+    // window without a taskbar button is put away when minimised.
     void Form_Resize();
 
     // Takes the window off the screen in a way that it can come back from: hidden while our icon

@@ -57,14 +57,15 @@ void StartUp::set_up() {
     f.set_title("Zephyne");
     program.SwitchingSong = false;
     program.StartingUp = true;
-    program.HelpFile = joined(program.folders.own, "zephyne.hlp", style);
+    program.HelpFile = program.folders.file(stage_.files, "zephyne.hlp");
     program.StartFolder = f.Dir1.path();
     stage_.device.Type = DeviceType::Sequencer;
     stage_.device.start_status_updates(kStatusInterval);
     engine_.display.ClearTimeDisplay();
 
-    const bool first_start = !stage_.files.check_readable(SettingsPath(program, style)).has_value();
+    const auto settings = stage_.files.check_readable(SettingsPath(program, style));
     ReadSettings(program, f, stage_.files);
+    const bool first_start = !settings && settings.error().kind == FileErrorKind::not_found;
     if (first_start) show_demo_songs_at_first_start();
     layout_.settips();
     check_reset_file(program, stage_.files);

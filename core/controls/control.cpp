@@ -86,12 +86,13 @@ void Control::set_caption(std::string caption) {
 void Control::set_tooltip(std::string tooltip) {
     if (tooltip == tooltip_) return;
     tooltip_ = std::move(tooltip);
-    if (!tooltip_.empty() && caption_.empty()) accessible_name_ = tooltip_;
+    if (!tooltip_.empty()) last_tooltip_ = tooltip_;
     changed(Property::tooltip);
 }
 
 std::string Control::accessible_name() const {
-    return accessible_name_.empty() ? caption_ : accessible_name_;
+    if (!caption_.empty()) return caption_;
+    return accessible_name_.empty() ? last_tooltip_ : accessible_name_;
 }
 
 void Control::set_colour(Colour colour) {

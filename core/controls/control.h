@@ -193,6 +193,7 @@ class Control {
     Place place_;
     std::string caption_;
     std::string tooltip_;
+    std::string last_tooltip_;  // that was not empty
     std::string accessible_name_;
     int tab_;
     TabStop tab_stop_;

@@ -9,6 +9,7 @@ namespace zephyne {
 namespace {
 
 bool lies_in(const std::string& path, const std::string& root, PathStyle style) {
+    if (path.empty()) return false;
     if (style == PathStyle::windows) {
         return starts_with_ignoring_case(with_separator(path, style), with_separator(root, style));
     }

@@ -114,7 +114,7 @@ void ListBox::click(std::size_t index) {
 }
 
 std::size_t ListBox::lower_bound(std::string_view text) const {
-    const std::string key = key_of(text);
+    const std::string key = collation_prefix(text);
     const auto place = std::lower_bound(
         items_.begin(), items_.end(), key,
         [&](const ListItem& item, const std::string& k) { return key_of(item.text) < k; });

@@ -60,7 +60,8 @@ class ListBox final : public Control {
     void click(std::size_t index);
     std::function<void()> on_click;
 
-    // The first row that does not sort before `text`, in a sorted list; count() when there is none.
+    // The first row that does not sort before `text`, letter case aside, in a sorted list; count()
+    // when there is none. Rows that begin with the text stand from there on.
     std::size_t lower_bound(std::string_view text) const;
 
   private:

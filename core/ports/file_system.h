@@ -71,6 +71,9 @@ class FileSystem {
     // Opens the file for reading and closes it again.
     virtual FileResult<void> check_readable(const std::string& path) const = 0;
 
+    // The length of a file that can be opened for reading, in bytes; nothing of it is read.
+    virtual FileResult<std::uint64_t> file_length(const std::string& path) const = 0;
+
     // The first `limit` bytes of a file.
     virtual FileResult<std::string> read_file(const std::string& path, std::size_t limit) const = 0;
 

@@ -84,6 +84,10 @@ bool starts_with_ignoring_case(std::string_view text, std::string_view prefix) {
     return folded(text).starts_with(folded(prefix));
 }
 
+std::string collation_prefix(std::string_view text) {
+    return folded(text);
+}
+
 std::string collation_key(std::string_view text) {
     std::string key = folded(text);
     key += '\0';

@@ -25,4 +25,7 @@ bool starts_with_ignoring_case(std::string_view text, std::string_view prefix);
 std::string collation_key(std::string_view text);
 std::string collation_key(std::string_view name, std::string_view folder);
 
+// What the keys of all texts begin with that begin with this one, in whatever letter case.
+std::string collation_prefix(std::string_view text);
+
 }  // namespace zephyne

@@ -14,7 +14,15 @@ bool is_digit(char c) {
 double digits_of_base(std::string_view text, int base) {
     std::uint64_t value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value, base);
+    if (result.ec == std::errc::result_out_of_range) return HUGE_VAL;
     return result.ec == std::errc() ? static_cast<double>(value) : 0;
+}
+
+// Whether a number that no double can hold lies too near to 0, rather than too far from it.
+bool is_tiny(std::string_view number) {
+    const auto exponent = number.find_first_of("eE");
+    if (exponent != std::string_view::npos) return number[exponent + 1] == '-';
+    return number.find_first_of("123456789") > number.find('.');
 }
 
 // How much of the text is sign, digits, point and digits, exponent. An "E" without digits behind
@@ -61,7 +69,7 @@ double leading_number(std::string_view text) {
 
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec == std::errc::result_out_of_range) {
+    if (result.ec == std::errc::result_out_of_range && !is_tiny(text)) {
         return text.front() == '-' ? -HUGE_VAL : HUGE_VAL;
     }
     return result.ec == std::errc() ? value : 0;
@@ -87,8 +95,12 @@ std::string decimal(std::int64_t value) {
 }
 
 std::string decimal(double value) {
+    if (value == 0) return "0";  // also for -0
+    const double size = std::abs(value);
+    const auto format = size >= 1e-5 && size < 1e15 ? std::chars_format::fixed
+                                                    : std::chars_format::scientific;
     char digits[64];
-    const auto shortest = std::to_chars(digits, digits + sizeof digits, value);
+    const auto shortest = std::to_chars(digits, digits + sizeof digits, value, format);
     std::string text(digits, shortest.ptr);
     if (text.size() > 17) {  // more digits than a number is ever typed with
         const auto rounded =

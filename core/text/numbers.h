@@ -10,8 +10,8 @@ namespace zephyne {
 
 // The number that a text begins with: blanks are skipped, then the longest part that forms a
 // decimal number (sign, digits, ".", exponent) counts and the rest is ignored. "&H" and "&O"
-// introduce hexadecimal and octal digits. A text without a number is 0. The decimal point is "."
-// in every locale.
+// introduce hexadecimal and octal digits. A text without a number is 0, and one that no double can
+// hold is infinite. The decimal point is "." in every locale.
 double leading_number(std::string_view text);
 
 // The nearest whole number; a half goes to the even neighbour.
@@ -22,7 +22,8 @@ std::optional<std::int16_t> to_int16(double value);
 std::optional<std::int32_t> to_int32(double value);
 
 // In decimal, without a leading blank; the shortest form that reads back as the same number, up to
-// 15 digits; a fraction below 1 has no zero before its point (".5", "-.5").
+// 15 digits; a fraction below 1 has no zero before its point (".5", "-.5"). Only from 1e15 on, and
+// below 1e-5, with an exponent.
 std::string decimal(double value);
 std::string decimal(std::int64_t value);
 

@@ -10,7 +10,7 @@ DRUMS = {
     "high tom": 50, "hat": 42, "pedal hat": 44, "open hat": 46, "crash": 49, "ride": 51,
     "bell": 53, "tambourine": 54, "cowbell": 56, "high bongo": 60, "low bongo": 61,
     "open conga": 63, "low conga": 64, "shaker": 70, "maracas": 70, "guiro": 73, "claves": 75,
-    "high block": 76, "low block": 77, "cabasa": 69, "triangle": 81, "castanets": 85,
+    "high block": 76, "low block": 77, "cabasa": 69, "triangle": 81,
     "low drum": 41, "bass drum": 35, "brush": 40, "splash": 55, "mute conga": 62,
 }
 STEP_LOUDNESS = {"X": 20, "x": 0, "o": -24}

@@ -63,7 +63,9 @@ class Track:
     def key_signature(self, tick, key, mode):
         keys = MINOR_KEYS if mode == "minor" else MAJOR_KEYS
         sharps = keys.index(key) - 7
-        self.add(tick, ORDER_META, meta(0x59, bytes([sharps & 0xFF, mode == "minor"])))
+        # Last of its tick: D minor is the bytes FF 01, and a program that only searches for texts
+        # would take a following delta time of 0 for an empty one.
+        self.add(tick, ORDER_CONTROL, meta(0x59, bytes([sharps & 0xFF, mode == "minor"])))
 
     def system_exclusive(self, tick, data):
         """`data` is all that follows F0, with its closing F7."""

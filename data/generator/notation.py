@@ -106,9 +106,16 @@ def bass_note(name, low):
     return low + (bass - low) % 12
 
 
+def mellow_tones(name):
+    """The chord's pitch classes without those a semitone above another one, such as the root of a
+    major seventh: they grate when they ring on above it."""
+    _, tones = chord_pitches(name)
+    return [tone for tone in tones if (tone - 1) % 12 not in tones]
+
+
 def chord_tones_from(name, low, count):
     """`count` chord tones going up from the key `low`."""
-    _, tones = chord_pitches(name)
+    tones = mellow_tones(name)
     keys = []
     key = low
     while len(keys) < count:
@@ -120,11 +127,9 @@ def chord_tones_from(name, low, count):
 
 def voicing(name, centre, previous=None, size=4):
     """A close position of the chord near `centre`, with the least movement from `previous`.
-    A chord of more than `size` tones loses its root, which the bass plays, then its fifth."""
+    A chord of more than `size` tones leaves its root, and then its third, to others."""
     _, tones = chord_pitches(name)
-    tones = list(tones)
-    while len(tones) > size:
-        del tones[0 if len(tones) >= 5 else 2]
+    tones = tones[max(0, len(tones) - size):]
     best, best_cost = None, None
     for turn in range(len(tones)):
         order = tones[turn:] + tones[:turn]
@@ -137,8 +142,8 @@ def voicing(name, centre, previous=None, size=4):
             cost = abs(sum(keys) / len(keys) - centre) * 1.5
             if keys[-1] - keys[0] > 14:
                 cost += 20
-            # Seconds at the bottom or top of a close chord sound harsh.
-            cost += 3 * (keys[1] - keys[0] <= 1) + 3 * (keys[-1] - keys[-2] <= 1)
+            # A semitone between neighbours sounds harsh.
+            cost += 15 * sum(high - low <= 1 for low, high in zip(keys, keys[1:]))
             if previous:
                 cost += sum(min(abs(key - old) for old in previous) for key in keys)
             if best_cost is None or cost < best_cost:

@@ -12,7 +12,6 @@ import zlib
 import midi_writer as smf
 import notation
 
-DRUM_CHANNEL = 9
 VOLUME, PAN, EXPRESSION, SUSTAIN, REVERB, CHORUS, MODULATION = 7, 10, 11, 64, 91, 93, 1
 
 
@@ -80,11 +79,11 @@ class Part:
             loudness += 0.5 * (max(note.pitches) - transpose - centre)
             loudness += 14 * note.marks.count("!")
             share = 0.5 if "'" in note.marks else 1.0 if "_" in note.marks else gate
-            begin, end = self.song.swung(at + note.begin), self.song.swung(
-                at + note.begin + note.length * share)
-            self.chord(begin, end - begin, note.pitches, loudness)
+            begin = self.song.swung(at + note.begin)
+            length = share * (self.song.swung(at + note.begin + note.length) - begin)
+            self.chord(begin, length, note.pitches, loudness)
             if self.breathes and note.length >= 1.5:
-                self.breathe(begin, end)
+                self.breathe(begin, begin + length)
             note.begin += at
         return sounding
 
@@ -136,13 +135,14 @@ class Part:
 class Song:
     """`settings`: tempo (quarter notes a minute), bar (in quarter notes), pulse (1.5 in six-eight),
     signature, key as ("F", "major"), swing (where the second eighth of a beat falls, 0.5 is
-    even), format."""
+    even), loudness (a factor of all velocities, to bring the songs to one level), format."""
 
     def __init__(self, title, rights, **settings):
         self.title = title
         self.bar = settings.get("bar", 4.0)
         self.pulse = settings.get("pulse", 1.0)
         self.swing = settings.get("swing", 0.5)
+        self.loudness = settings.get("loudness", 1.0)
         self.format = settings.get("format", 1)
         self.parts = []
         self.text_tracks = []
@@ -199,8 +199,10 @@ class Song:
         return -2 if place % (self.pulse / 2) < 0.01 else -5
 
     def swung(self, at):
-        """The place of a beat's middle, moved for swing."""
-        whole, part = divmod(at, 1.0)
+        """A place moved for swing: halves and quarters of a beat go later, triplets stay."""
+        whole, part = divmod(at + 1e-6, 1.0)
+        if abs(part * 3 - round(part * 3)) < 0.01:
+            return at
         if part < 0.5:
             return whole + part * self.swing * 2
         return whole + self.swing + (part - 0.5) * (1 - self.swing) * 2
@@ -217,6 +219,7 @@ class Song:
             notes.sort(key=lambda note: note[0][0])
             for note, following in zip(notes, notes[1:] + [None]):
                 (begin, end), velocity, part = note
+                velocity = max(1, min(127, round(velocity * self.loudness)))
                 if following:
                     end = min(end, following[0][0])
                 if end > begin:
@@ -237,3 +240,14 @@ class TimedSong(Song):
         self.ticks_per_beat = 60_000 / tempo
         self.division = smf.ticks_per_frame(25, 40)
         self.conductor.add(0, smf.ORDER_META, smf.meta(0x54, bytes([0x20, 0, 0, 0, 0])))
+        self.slow_from, self.slowing = None, 0.0
+
+    def run_down(self, at, slowing):
+        """From `at` on each quarter note is longer than the last by twice `slowing`, in parts of
+        the first. Tempo events mean nothing here, so the places themselves move."""
+        self.slow_from, self.slowing = at, slowing
+
+    def tick(self, at):
+        if self.slow_from is not None and at > self.slow_from:
+            at += self.slowing * (at - self.slow_from) ** 2
+        return round(at * self.ticks_per_beat)

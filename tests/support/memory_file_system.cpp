@@ -10,7 +10,7 @@
 namespace zephyne {
 namespace {
 
-enum class Fault { none, denied, write_denied, held_open, vanished };
+enum class Fault { none, denied, list_denied, write_denied, held_open, vanished };
 
 tl::unexpected<FileError> error(FileErrorKind kind, std::string description) {
     return tl::unexpected(FileError{kind, std::move(description)});
@@ -203,6 +203,9 @@ std::optional<std::string> MemoryFileSystem::contents(std::string_view path) con
 void MemoryFileSystem::deny(std::string_view path) {
     must_exist(path).fault = Fault::denied;
 }
+void MemoryFileSystem::deny_listing(std::string_view path) {
+    must_exist(path).fault = Fault::list_denied;
+}
 void MemoryFileSystem::deny_writing(std::string_view path) {
     must_exist(path).fault = Fault::write_denied;
 }
@@ -249,7 +252,8 @@ FileResult<std::vector<std::string>> MemoryFileSystem::list(const std::string& f
     const auto node = find(folder);
     if (!node) return tl::unexpected(node.error());
     if (!(*node)->is_folder) return not_found("Path not found");
-    if ((*node)->fault == Fault::denied) return permission_denied();
+    const Fault fault = (*node)->fault;
+    if (fault == Fault::denied || fault == Fault::list_denied) return permission_denied();
     std::vector<std::string> names;
     for (const NodePtr& member : (*node)->members) {
         const bool wanted = which == Members::folders
@@ -300,6 +304,12 @@ FileResult<void> MemoryFileSystem::check_readable(const std::string& path) const
     const auto node = open_for_reading(path);
     if (!node) return tl::unexpected(node.error());
     return {};
+}
+
+FileResult<std::uint64_t> MemoryFileSystem::file_length(const std::string& path) const {
+    const auto node = open_for_reading(path);
+    if (!node) return tl::unexpected(node.error());
+    return (*node)->contents.size();
 }
 
 FileResult<std::string> MemoryFileSystem::read_file(const std::string& path,

@@ -45,6 +45,7 @@ class MemoryFileSystem final : public FileSystem {
 
     // Faults. Those of a path stay until allow(path).
     void deny(std::string_view path);          // reading, listing and writing: no permission
+    void deny_listing(std::string_view path);  // of a folder whose files can be opened
     void deny_writing(std::string_view path);  // a file's contents, or new files in a folder
     void hold_open(std::string_view path);     // "File already open" on every attempt to open it
     void vanish(std::string_view path);        // still listed, but not there when it is opened
@@ -62,6 +63,7 @@ class MemoryFileSystem final : public FileSystem {
     FileResult<std::vector<std::string>> list_folders(const std::string& folder) const override;
     FileResult<std::string> resolve(const std::string& path) const override;
     FileResult<void> check_readable(const std::string& path) const override;
+    FileResult<std::uint64_t> file_length(const std::string& path) const override;
     FileResult<std::string> read_file(const std::string& path, std::size_t limit) const override;
     FileResult<std::unique_ptr<OutputFile>> create_file(const std::string& path) override;
 

@@ -22,8 +22,12 @@ class SimulatedBackend final : public MediaBackend {
     std::set<std::string> broken;                 // cannot be opened
     std::set<std::string> mute;                   // open, but never start to play
 
-    // The file breaks now.
+    // The file breaks now, or reaches its end.
     void fail();
+    void finish();
+
+    // The file name of the song that is open; "" when none is.
+    std::string open_song() const { return mode_ == DeviceMode::not_open ? "" : song_; }
 
     tl::expected<void, std::string> open(const std::string& path) override;
     void close() override;
@@ -39,7 +43,6 @@ class SimulatedBackend final : public MediaBackend {
   private:
     void hold(DeviceMode mode);
     void start();
-    void finish();
 
     std::string name_;
     VirtualClock& clock_;

@@ -1,7 +1,5 @@
 #include "tests/support/virtual_time.h"
 
-#include <gtest/gtest.h>
-
 #include <stdexcept>
 
 namespace zephyne::test {

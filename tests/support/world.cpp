@@ -1,5 +1,8 @@
 #include "tests/support/world.h"
 
+#include "core/playlist_entry.h"
+#include "core/text/letter_case.h"
+
 #include <gtest/gtest.h>
 
 #include <utility>
@@ -40,6 +43,19 @@ void World::start(std::int32_t mode) {
     engine->order.RefillAndPlayNext();
 }
 
+void World::open_playlist(std::initializer_list<std::string> entries) {
+    open_folder();
+    settings().Playlist = 1;
+    std::vector<ListItem> lines;
+    std::vector<ListItem> song_names;
+    for (const std::string& entry : entries) {
+        lines.push_back({entry, {}});
+        song_names.push_back({std::string(split_entry_line(entry).first), {}});
+    }
+    form.List3.set_items(std::move(lines));
+    form.File1.set_items(std::move(song_names));
+}
+
 void World::click(const std::string& name) {
     const auto& items = form.File1.items();
     for (std::size_t row = 0; row < items.size(); ++row) {
@@ -71,6 +87,35 @@ std::vector<std::string> World::names(const ListBox& list) {
     std::vector<std::string> names;
     for (const ListItem& item : list.items()) names.push_back(item.text);
     return names;
+}
+
+std::string World::open_song() const {
+    return midi.open_song() + wave.open_song() + video.open_song();
+}
+
+void World::expect_title_tells_the_truth() const {
+    const DeviceMode mode = device.Mode();
+    if (mode == DeviceMode::playing) {
+        EXPECT_EQ(form.title(), "Zephyne - Playing " + program.CurrentSongName);
+        const std::string song = split_path(program.CurrentSongPath, files.path_style()).name;
+        EXPECT_EQ(lower_case(open_song()), lower_case(song));
+        EXPECT_TRUE(lower_case(form.title()).ends_with(lower_case(open_song())))
+            << form.title() << ", but " << open_song() << " plays";
+        EXPECT_TRUE(form.MMControl1.transport_enabled());
+    } else if (mode == DeviceMode::paused && program.PausedByUser) {
+        EXPECT_EQ(form.title(), "Zephyne - Paused");
+    } else {
+        EXPECT_EQ(form.title(), "Zephyne");
+    }
+}
+
+void World::expect_window_unlocked() const {
+    for (const Control* control : std::initializer_list<const Control*>{
+             &form.Command1, &form.Command6, &form.Command9, &form.File1, &form.Dir1, &form.Drive1,
+             &form.SSCommand1, &form.Frame2, &form.text2, &form.Slider1}) {
+        EXPECT_TRUE(control->enabled()) << control->name();
+    }
+    EXPECT_EQ(form.Command6.caption(), "Reset List");
 }
 
 void World::expect_flags_at_rest() const {

@@ -56,8 +56,14 @@ class World {
     // Starts the mode's cycle, as at start-up.
     void start(std::int32_t mode);
 
+    // As after loading a playlist in Manual mode: entry lines, "name|folder".
+    void open_playlist(std::initializer_list<std::string> entries);
+
     // Clicks a song in the list.
     void click(const std::string& name);
+
+    // Another copy of the program leaves a path; the poll finds it within two seconds.
+    void hand_over(const std::string& path) { form.Label15.set_caption(path); }
 
     void run_for(Milliseconds duration) { pump.run_for(duration); }
 
@@ -71,8 +77,14 @@ class World {
     // The names in a list.
     static std::vector<std::string> names(const ListBox& list);
 
-    // Fails the test when a guard flag is still set.
+    // The file name of the song that the device holds; "" when it holds none.
+    std::string open_song() const;
+
+    // Fail the test when a guard flag is still set; when the window says something else than the
+    // device does; when a key or list is left locked.
     void expect_flags_at_rest() const;
+    void expect_title_tells_the_truth() const;
+    void expect_window_unlocked() const;
 
   private:
     std::size_t played_up_to_ = 0;

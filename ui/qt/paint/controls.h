@@ -5,15 +5,15 @@
 // so it must have been painted before; a control may reach `overhang` px beyond its box.
 #pragma once
 
-#include <QColor>
-#include <QRect>
-#include <QSize>
-#include <QString>
-
 #include "ui/qt/paint/glyphs.h"
 #include "ui/qt/paint/scale.h"
 #include "ui/qt/paint/surfaces.h"
 #include "ui/qt/paint/type.h"
+
+#include <QColor>
+#include <QRect>
+#include <QSize>
+#include <QString>
 
 class QPainter;
 
@@ -76,8 +76,8 @@ void text_box(QPainter& painter, const Scale& scale, const QRect& box, const Con
 void glass_text_box(QPainter& painter, const Scale& scale, const QRect& box,
                     const ControlState& state);
 
-// Where the text of a text box stands: 7 px from the sides, 7 px from the top of one with
-// several lines.
+// Where the text of a text box stands: 7 px from the sides; one with several lines starts
+// 6 px below the top.
 enum class TextLines { One, Many };
 QRect text_box_interior(const Scale& scale, const QRect& box, TextLines lines);
 
@@ -91,17 +91,20 @@ struct LabelState {
 void label(QPainter& painter, const Scale& scale, const QRect& box, const LabelState& state,
            const QString& text);
 
+// The name on the faceplate, on one baseline with the legends of the volume sliders.
+void brand(QPainter& painter, const Scale& scale, const QRect& box, const QString& name);
+
 // Wrapped text on the faceplate from the top of its box; returns the height it needs in
 // device pixels. wrapped_height tells it without painting.
-void wrapped_label(QPainter& painter, const Scale& scale, const QRect& box,
-                   const LabelState& state, const QString& text);
+void wrapped_label(QPainter& painter, const Scale& scale, const QRect& box, const LabelState& state,
+                   const QString& text);
 int wrapped_height(const Scale& scale, const QString& text, Role role, int width);
 
 // Lit text on glass, one line, middle. display: the Display setting.
 void led_label(QPainter& painter, const Scale& scale, const QRect& box, Role role, Align align,
                int display, const QString& text);
 
-// A small lamp in an LED colour, filling its (square) box.
+// A small lamp in an LED colour in a square box; its rim reaches 1.5 px beyond.
 void lamp(QPainter& painter, const Scale& scale, const QRect& box, const QColor& color);
 
 // Menus and tooltips.

@@ -1,18 +1,19 @@
 #include "ui/qt/paint/glyphs.h"
 
+#include "ui/qt/paint/kept_picture.h"
+
 #include <QFile>
 #include <QHash>
 #include <QPainter>
-#include <QPixmap>
-#include <QPixmapCache>
 #include <QSvgRenderer>
-
 #include <algorithm>
 #include <array>
 #include <memory>
 
 // The picture files are linked into the program; a static library must ask for its own.
-static void load_pictures() { Q_INIT_RESOURCE(pictures); }
+static void load_pictures() {
+    Q_INIT_RESOURCE(pictures);
+}
 
 namespace zephyne::paint {
 
@@ -21,12 +22,14 @@ namespace {
 constexpr int preset_count = 12;
 
 constexpr std::array<const char*, 22> ids{
-    "preset-1", "preset-2", "preset-3",  "preset-4",  "preset-5",  "preset-6", "preset-7",
-    "preset-8", "preset-9", "preset-10", "preset-11", "preset-12", "play",     "pause",
-    "stop",     "reset",    "lock",      "unlock",    "folder",    "drive",    "arrow",
-    "check"};
+    "preset-1", "preset-2", "preset-3", "preset-4",  "preset-5",  "preset-6",
+    "preset-7", "preset-8", "preset-9", "preset-10", "preset-11", "preset-12",
+    "play",     "pause",    "stop",     "reset",     "lock",      "unlock",
+    "folder",   "drive",    "arrow",    "check"};
 
-const char* id_of(Glyph glyph) { return ids[static_cast<std::size_t>(glyph)]; }
+const char* id_of(Glyph glyph) {
+    return ids[static_cast<std::size_t>(glyph)];
+}
 
 // The whole family in one colour.
 QSvgRenderer& family(const QColor& color) {
@@ -59,17 +62,11 @@ void draw_glyph(QPainter& painter, Glyph glyph, const QRect& box, const QColor& 
                              .arg(QLatin1String(id_of(glyph)), color.name(QColor::HexArgb))
                              .arg(box.width())
                              .arg(box.height());
-    QPixmap picture;
-    if (!QPixmapCache::find(name, &picture)) {
-        picture = QPixmap(box.size());
-        picture.fill(Qt::transparent);
-        QPainter on_picture(&picture);
-        on_picture.setOpacity(color.alphaF());
-        family(color).render(&on_picture, QLatin1String(id_of(glyph)), QRectF(picture.rect()));
-        on_picture.end();
-        QPixmapCache::insert(name, picture);
-    }
-    painter.drawPixmap(box.topLeft(), picture);
+    painter.drawPixmap(box.topLeft(), kept_picture(name, box.size(), [&](QPainter& on_picture) {
+                           on_picture.setOpacity(color.alphaF());
+                           family(color).render(&on_picture, QLatin1String(id_of(glyph)),
+                                                QRectF(QPointF(), QSizeF(box.size())));
+                       }));
 }
 
 void draw_glyph_centered(QPainter& painter, const Scale& scale, Glyph glyph, const QRect& box,

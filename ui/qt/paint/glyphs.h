@@ -1,20 +1,39 @@
 // The glyphs on keys and in lists, by name, in any colour and size.
 #pragma once
 
+#include "ui/qt/paint/scale.h"
+
 #include <QColor>
 #include <QRect>
 #include <QSize>
-
-#include "ui/qt/paint/scale.h"
 
 class QPainter;
 
 namespace zephyne::paint {
 
 enum class Glyph {
-    Preset1, Preset2, Preset3, Preset4, Preset5, Preset6,
-    Preset7, Preset8, Preset9, Preset10, Preset11, Preset12,
-    Play, Pause, Stop, Reset, Lock, Unlock, Folder, Drive, Arrow, Check,
+    Preset1,
+    Preset2,
+    Preset3,
+    Preset4,
+    Preset5,
+    Preset6,
+    Preset7,
+    Preset8,
+    Preset9,
+    Preset10,
+    Preset11,
+    Preset12,
+    Play,
+    Pause,
+    Stop,
+    Reset,
+    Lock,
+    Unlock,
+    Folder,
+    Drive,
+    Arrow,
+    Check,
 };
 
 // The glyph of preset 1 to 12; a number outside is the nearest of these.

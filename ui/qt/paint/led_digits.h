@@ -6,9 +6,9 @@
 // A number for a Display that has no colour is drawn in black; 0 and less draw nothing.
 #pragma once
 
-#include <QRect>
-
 #include "ui/qt/paint/scale.h"
+
+#include <QRect>
 
 class QPainter;
 
@@ -23,7 +23,9 @@ constexpr int digit_picture(int display, int digit) {
     if (digit == reset_digit) return display + 34;
     return display * 10 + 1 + digit;
 }
-constexpr int status_picture(int display, int frame) { return display * 4 + frame; }
+constexpr int status_picture(int display, int frame) {
+    return display * 4 + frame;
+}
 
 // Which segments a digit lights: bit 0 is a, bit 6 is g. None for a number out of range.
 unsigned lit_segments(int digit);

@@ -1,11 +1,11 @@
 // List boxes, the folder list, the drive list with its drop-down, and scroll bars.
 #pragma once
 
-#include <QRect>
-#include <QString>
-
 #include "ui/qt/paint/controls.h"
 #include "ui/qt/paint/scale.h"
+
+#include <QRect>
+#include <QString>
 
 class QPainter;
 
@@ -60,15 +60,16 @@ struct ScrollRange {
     int value = 0;
 };
 
-// The track inside a well's or glass's right edge.
-QRect scroll_track(const Scale& scale, const QRect& box);
+enum class ScrollPlace { Well, Glass };
+
+// The track inside the right edge of a well's or glass's box.
+QRect scroll_track(const Scale& scale, const QRect& box, ScrollPlace place = ScrollPlace::Well);
 // The thumb in its track: at least 16 px long.
 QRect scroll_thumb(const Scale& scale, const QRect& track, const ScrollRange& range);
 // The value that puts the thumb's top at the device pixel y; clamped.
 int scroll_value_at(const Scale& scale, const QRect& track, const ScrollRange& range, int y);
 
-enum class ScrollPlace { Well, Glass };
-void scroll_bar(QPainter& painter, const Scale& scale, const QRect& track,
-                const ScrollRange& range, ScrollPlace place, Pointer pointer);
+void scroll_bar(QPainter& painter, const Scale& scale, const QRect& track, const ScrollRange& range,
+                ScrollPlace place, Pointer pointer);
 
 }  // namespace zephyne::paint

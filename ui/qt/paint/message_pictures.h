@@ -1,9 +1,9 @@
 // The pictures of the message box and of the note window.
 #pragma once
 
-#include <QRect>
-
 #include "ui/qt/paint/scale.h"
+
+#include <QRect>
 
 class QPainter;
 

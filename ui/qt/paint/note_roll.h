@@ -2,11 +2,10 @@
 // they cross a fixed line; and the still banner made of the same notes.
 #pragma once
 
-#include <QRect>
-
-#include <vector>
-
 #include "ui/qt/paint/scale.h"
+
+#include <QRect>
+#include <vector>
 
 class QPainter;
 
@@ -14,8 +13,8 @@ namespace zephyne::paint {
 
 inline constexpr int roll_frames = 30;
 inline constexpr int roll_rows = 5;
-inline constexpr int roll_steps = 20;      // as many as the picture is wide
-inline constexpr int roll_line_step = 6;   // where the line stands
+inline constexpr int roll_steps = 20;     // as many as the picture is wide
+inline constexpr int roll_line_step = 6;  // where the line stands
 
 enum class NotePhase { ToCome, Sounding, Gone };
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QColor>
-
 #include <cstdint>
 
 namespace zephyne::paint {
@@ -18,8 +17,12 @@ inline QColor faded(QColor color, double opacity) {
     color.setAlphaF(static_cast<float>(opacity));
     return color;
 }
-inline QColor light(double opacity) { return faded(rgb(0xFFFFFF), opacity); }
-inline QColor shade(double opacity) { return faded(rgb(0x000000), opacity); }
+inline QColor light(double opacity) {
+    return faded(rgb(0xFFFFFF), opacity);
+}
+inline QColor shade(double opacity) {
+    return faded(rgb(0x000000), opacity);
+}
 
 namespace palette {
 
@@ -87,10 +90,14 @@ inline constexpr QColor led_none = rgb(0x000000);
 // which is how a damaged setting looks: a dark display, not a crash.
 constexpr QColor led_color(int display) {
     switch (display) {
-        case 0: return palette::led_green;
-        case 1: return palette::led_orange;
-        case 2: return palette::led_red;
-        default: return palette::led_none;
+        case 0:
+            return palette::led_green;
+        case 1:
+            return palette::led_orange;
+        case 2:
+            return palette::led_red;
+        default:
+            return palette::led_none;
     }
 }
 

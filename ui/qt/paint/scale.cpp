@@ -1,7 +1,5 @@
 #include "ui/qt/paint/scale.h"
 
-#include <QPainter>
-
 #include <algorithm>
 #include <cmath>
 
@@ -9,15 +7,23 @@ namespace zephyne::paint {
 
 namespace {
 
-int round_half_up(double value) { return static_cast<int>(std::floor(value + 0.5)); }
+int round_half_up(double value) {
+    return static_cast<int>(std::floor(value + 0.5));
+}
 
 }  // namespace
 
-int Scale::px(double px) const { return round_half_up(px * s); }
+int Scale::px(double px) const {
+    return round_half_up(px * s);
+}
 
-int Scale::stroke(double px) const { return std::max(1, round_half_up(px * s)); }
+int Scale::stroke(double px) const {
+    return std::max(1, round_half_up(px * s));
+}
 
-int Scale::edge(int twips) const { return round_half_up(twips * s / twips_per_pixel); }
+int Scale::edge(int twips) const {
+    return round_half_up(twips * s / twips_per_pixel);
+}
 
 QRect Scale::box(int left, int top, int width, int height, const Inset& inset) const {
     const int x = edge(left + inset.left * twips_per_pixel);
@@ -36,13 +42,9 @@ QRectF shrunk(const QRectF& box, double border) {
 }
 
 QRect centered(const QRect& box, int width, int height) {
-    return QRect(box.left() + round_half_up((box.width() - width) / 2.0),
-                 box.top() + round_half_up((box.height() - height) / 2.0), width, height);
-}
-
-void use_device_pixels(QPainter& painter) {
-    const double ratio = painter.device()->devicePixelRatio();
-    painter.scale(1 / ratio, 1 / ratio);
+    const auto half = [](int room) { return room >= 0 ? room / 2 : -((1 - room) / 2); };
+    return QRect(box.left() + half(box.width() - width), box.top() + half(box.height() - height),
+                 width, height);
 }
 
 }  // namespace zephyne::paint

@@ -2,15 +2,12 @@
 // neither gap nor overlap at any scale.
 //
 // Everything in this folder paints in device pixels: the painter's transform must map one
-// unit to one device pixel and may only move by whole pixels. use_device_pixels() puts a
-// widget's painter into that state. Nothing here keeps a painter; all calls belong on the
-// user-interface thread.
+// unit to one device pixel and may only move by whole pixels. Nothing here keeps a painter;
+// all calls belong on the user-interface thread.
 #pragma once
 
 #include <QRect>
 #include <QRectF>
-
-class QPainter;
 
 namespace zephyne::paint {
 
@@ -48,10 +45,8 @@ inline constexpr int overhang = 2;
 QRect shrunk(const QRect& box, int border);
 QRectF shrunk(const QRectF& box, double border);
 
-// A box of width x height device pixels in the middle of another, on whole pixels.
+// A box of width x height device pixels in the middle of another, on whole pixels; what is
+// left over goes below and to the right.
 QRect centered(const QRect& box, int width, int height);
-
-// Undoes the device pixel ratio of the painter's device.
-void use_device_pixels(QPainter& painter);
 
 }  // namespace zephyne::paint

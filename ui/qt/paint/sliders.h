@@ -1,11 +1,11 @@
 // The position slider and the two volume sliders.
 #pragma once
 
-#include <QPoint>
-#include <QRect>
-
 #include "ui/qt/paint/controls.h"
 #include "ui/qt/paint/scale.h"
+
+#include <QPoint>
+#include <QRect>
 
 class QPainter;
 

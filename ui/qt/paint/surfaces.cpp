@@ -23,11 +23,14 @@ struct KeyColors {
 
 KeyColors key_colors(KeyFace face) {
     switch (face) {
-        case KeyFace::Up: return {palette::key_top, palette::key_bottom};
-        case KeyFace::Hover: return {palette::key_hover_top, palette::key_hover_bottom};
+        case KeyFace::Up:
+            return {palette::key_top, palette::key_bottom};
+        case KeyFace::Hover:
+            return {palette::key_hover_top, palette::key_hover_bottom};
         case KeyFace::Down:
-        case KeyFace::DownOff: return {palette::key_down_top, palette::key_down_bottom};
-        case KeyFace::Off: break;
+            return {palette::key_down_top, palette::key_down_bottom};
+        case KeyFace::Off:
+            break;
     }
     return {palette::key_off, palette::key_off};
 }
@@ -36,21 +39,20 @@ KeyColors key_colors(KeyFace face) {
 
 void faceplate(QPainter& painter, const Scale& scale, const QRect& client) {
     const int stroke = scale.stroke();
-    painter.fillRect(client,
-                     vertical_gradient(client, palette::face_top, palette::face_bottom));
+    painter.fillRect(client, vertical_gradient(client, palette::face_top, palette::face_bottom));
     const QRect middle = client.adjusted(0, stroke, 0, -stroke);
     fill(painter, QRect(client.left(), client.top(), client.width(), stroke), light(0.22));
     fill(painter, QRect(client.left(), middle.bottom() + 1, client.width(), stroke), shade(0.50));
     fill(painter, QRect(client.left(), middle.top(), stroke, middle.height()), light(0.07));
-    fill(painter,
-         QRect(client.right() + 1 - stroke, middle.top(), stroke, middle.height()), shade(0.35));
+    fill(painter, QRect(client.right() + 1 - stroke, middle.top(), stroke, middle.height()),
+         shade(0.35));
 }
 
 void groove(QPainter& painter, const Scale& scale, const QRect& box) {
     const int stroke = scale.stroke();
     const bool vertical = box.height() > box.width();
-    const QRect dark(box.topLeft(), vertical ? QSize(stroke, box.height())
-                                             : QSize(box.width(), stroke));
+    const QRect dark(box.topLeft(),
+                     vertical ? QSize(stroke, box.height()) : QSize(box.width(), stroke));
     fill(painter, dark, shade(0.55));
     fill(painter, dark.translated(vertical ? stroke : 0, vertical ? 0 : stroke), light(0.10));
 }
@@ -76,8 +78,10 @@ void key(QPainter& painter, const Scale& scale, const QRect& box, KeyFace face) 
             break;
         }
         case KeyFace::Down:
-        case KeyFace::DownOff: fill(painter, row_inside(scale, box, 1), shade(0.45)); break;
-        case KeyFace::Off: break;
+            fill(painter, row_inside(scale, box, 1), shade(0.45));
+            break;
+        case KeyFace::Off:
+            break;
     }
 }
 
@@ -135,9 +139,9 @@ void frame(QPainter& painter, const Scale& scale, const QRect& box, const QStrin
     if (caption.isEmpty()) return;
 
     const double text = text_width(caption, Role::FrameCaption, scale);
-    const QRect tag(box.left() + scale.px(8), box.top(),
-                    scale.px(text / scale.s + 12), scale.px(13));
-    fill_round(painter, tag.translated(0, stroke), scale.exact(well_radius), light(0.10));
+    const QRect tag(box.left() + scale.px(8), box.top(), scale.px(text / scale.s + 12),
+                    scale.px(13));
+    fill(painter, QRect(tag.left(), tag.bottom() + 1, tag.width(), stroke), light(0.10));
     fill_round(painter, tag, scale.exact(well_radius), palette::well_edge);
     draw_text(painter, scale, tag, caption,
               {.role = Role::FrameCaption, .color = caption_color, .align = Align::Center});

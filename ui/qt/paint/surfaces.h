@@ -2,11 +2,11 @@
 // the focus ring that goes on top. Boxes are snapped device pixels.
 #pragma once
 
+#include "ui/qt/paint/scale.h"
+
 #include <QColor>
 #include <QRect>
 #include <QString>
-
-#include "ui/qt/paint/scale.h"
 
 class QPainter;
 
@@ -23,7 +23,6 @@ enum class KeyFace {
     Hover,
     Down,  // pressed or latched
     Off,   // disabled
-    DownOff,  // disabled while latched
 };
 
 // Radius 3. Paints its seat 1 px below the box.
@@ -36,7 +35,8 @@ enum class WellLook {
 };
 
 // Radius 2. Paints its lower lip 1 px below the box.
-void well(QPainter& painter, const Scale& scale, const QRect& box, WellLook look = WellLook::Normal);
+void well(QPainter& painter, const Scale& scale, const QRect& box,
+          WellLook look = WellLook::Normal);
 
 // Radius 3. Paints a rim 1 px around the box.
 void glass(QPainter& painter, const Scale& scale, const QRect& box);
@@ -54,7 +54,8 @@ inline constexpr double cap_radius = 2.0;
 
 // On the outer pixel row of the box of a surface with that radius (px at 100 %); the halo
 // reaches `overhang` px beyond. Nothing for Focus::None.
-void focus_ring(QPainter& painter, const Scale& scale, const QRect& box, double radius, Focus focus);
+void focus_ring(QPainter& painter, const Scale& scale, const QRect& box, double radius,
+                Focus focus);
 
 // The line of the default key, under the focus ring if it has both.
 void default_ring(QPainter& painter, const Scale& scale, const QRect& box);

@@ -1,15 +1,15 @@
 #include "ui/qt/paint/type.h"
 
+#include "ui/qt/paint/kept_picture.h"
+#include "ui/qt/paint/palette.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
 #include <QTextLayout>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
-
-#include "ui/qt/paint/palette.h"
 
 namespace zephyne::paint {
 
@@ -36,44 +36,90 @@ constexpr std::array<Face, 13> faces{{
     {13.33, QFont::Normal, 16.5, 0},  // MessageLong
 }};
 
-// Qt's fonts come in whole pixels. A face of another size is set in the nearest font and
-// drawn through a slight magnification, which costs no sharpness without hinting.
-double magnification(Role role, const Scale& scale) {
-    const double wanted = scale.exact(face(role).size);
-    return wanted / std::max(1, scale.px(face(role).size));
-}
+// Text is set this many times too large and drawn reduced. Fonts come in whole pixels, and
+// the font renderer thickens the stems of small sizes; the reduction gives every size exactly
+// and in the weight it was drawn. Without hinting it costs no sharpness.
+constexpr double setting_size = 4;
 
-double natural_width(const QString& text, Role role, const Scale& scale) {
-    return QFontMetricsF(font(role, scale)).horizontalAdvance(text) * magnification(role, scale);
-}
-
-FittedText elided(const QString& text, Role role, const Scale& scale, double room, double stretch,
-                  Qt::TextElideMode mode) {
-    const QFontMetricsF metrics(font(role, scale));
-    const double grown = magnification(role, scale) * stretch;
-    const QString cut = metrics.elidedText(text, mode, std::max(0.0, room) / grown);
-    const double width = metrics.horizontalAdvance(cut) * grown;
-    // A box that has no room even for the ellipsis stays empty.
-    if (width > room) return {QString(), stretch, 0};
-    return {cut, stretch, width};
-}
-
-}  // namespace
-
-const Face& face(Role role) { return faces[static_cast<std::size_t>(role)]; }
-
-QFont font(Role role, const Scale& scale) {
+QFont sized_font(Role role, double unit) {
     const Face& look = face(role);
     QFont result;
     result.setFamilies({QStringLiteral("Inter"), QStringLiteral("Liberation Sans"),
                         QStringLiteral("DejaVu Sans Condensed")});
     result.setStyleHint(QFont::SansSerif);
-    result.setPixelSize(std::max(1, scale.px(look.size)));
+    result.setPixelSize(std::max(1, Scale{unit}.px(look.size)));
     result.setWeight(look.weight);
     result.setHintingPreference(QFont::PreferNoHinting);
     if (look.letter_spacing > 0)
-        result.setLetterSpacing(QFont::AbsoluteSpacing, scale.exact(look.letter_spacing));
+        result.setLetterSpacing(QFont::AbsoluteSpacing, look.letter_spacing * unit);
     return result;
+}
+
+QFont setting_font(Role role, const Scale& scale) {
+    return sized_font(role, scale.s * setting_size);
+}
+
+// From the setting to the device.
+double reduction(Role role, const Scale& scale) {
+    return scale.exact(face(role).size) / setting_font(role, scale).pixelSize();
+}
+
+double natural_width(const QString& text, Role role, const Scale& scale) {
+    return QFontMetricsF(setting_font(role, scale)).horizontalAdvance(text) *
+           reduction(role, scale);
+}
+
+FittedText elided(const QString& text, Role role, const Scale& scale, double room, double stretch,
+                  Qt::TextElideMode mode) {
+    const QFontMetricsF metrics(setting_font(role, scale));
+    const double reduced = reduction(role, scale) * stretch;
+    const QString cut = metrics.elidedText(text, mode, std::max(0.0, room) / reduced);
+    const double width = metrics.horizontalAdvance(cut) * reduced;
+    // A box that has no room even for the ellipsis stays empty.
+    if (width > room) return {QString(), stretch, 0};
+    return {cut, stretch, width};
+}
+
+// Stroking letters is slow, so halos are kept.
+void draw_glow(QPainter& painter, const Scale& scale, const QPointF& origin, const FittedText& line,
+               const TextStyle& style) {
+    constexpr int parts = 4;  // of a pixel, as finely as letters are placed
+    const int left = static_cast<int>(std::floor(origin.x()));
+    const int part = static_cast<int>((origin.x() - left) * parts);
+
+    const double size = scale.exact(face(style.role).size);
+    const int margin = static_cast<int>(size);  // for the halo and letters that lean out
+    const QPoint start(margin, 2 * margin);
+    const QSize area(static_cast<int>(line.width) + 3 * margin, 3 * margin);
+    const QString name = QStringLiteral("zephyne-glow/%1/%2/%3/%4/%5/")
+                             .arg(static_cast<int>(style.role))
+                             .arg(style.color.name(QColor::HexArgb))
+                             .arg(size)
+                             .arg(line.stretch)
+                             .arg(part) +
+                         line.text;
+    const QPixmap halo = kept_picture(name, area, [&](QPainter& on_picture) {
+        const double reduced = reduction(style.role, scale);
+        QPainterPath outline;
+        outline.addText(0, 0, setting_font(style.role, scale), line.text);
+        on_picture.setRenderHint(QPainter::Antialiasing);
+        on_picture.translate(start.x() + static_cast<double>(part) / parts, start.y());
+        on_picture.scale(reduced * line.stretch, reduced);
+        on_picture.strokePath(
+            outline, QPen(faded(style.color, glow_opacity), scale.exact(glow_width) / reduced,
+                          Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    });
+    painter.drawPixmap(QPoint(left, static_cast<int>(origin.y())) - start, halo);
+}
+
+}  // namespace
+
+const Face& face(Role role) {
+    return faces[static_cast<std::size_t>(role)];
+}
+
+QFont font(Role role, const Scale& scale) {
+    return sized_font(role, scale.s);
 }
 
 double text_width(const QString& text, Role role, const Scale& scale) {
@@ -84,9 +130,12 @@ FittedText fit_text(const QString& text, Role role, const Scale& scale, double r
     const double width = natural_width(text, role, scale);
     if (fit == Fit::Overflow || width <= room) return {text, 1, width};
     switch (fit) {
-        case Fit::ElideMiddle: return elided(text, role, scale, room, 1, Qt::ElideMiddle);
-        case Fit::ElideEnd: return elided(text, role, scale, room, 1, Qt::ElideRight);
-        default: break;
+        case Fit::ElideMiddle:
+            return elided(text, role, scale, room, 1, Qt::ElideMiddle);
+        case Fit::ElideEnd:
+            return elided(text, role, scale, room, 1, Qt::ElideRight);
+        default:
+            break;
     }
     if (width * narrowest_stretch <= room) return {text, room / width, room};
     return elided(text, role, scale, room, narrowest_stretch, Qt::ElideRight);
@@ -99,7 +148,7 @@ QStringList wrap_text(const QString& text, Role role, const Scale& scale, double
 
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    const double line_width = std::max(1.0, room / magnification(role, scale));
+    const double line_width = std::max(1.0, room / reduction(role, scale));
 
     QStringList lines;
     for (const QString& paragraph : normal.split(QLatin1Char('\n'))) {
@@ -107,7 +156,7 @@ QStringList wrap_text(const QString& text, Role role, const Scale& scale, double
             lines.append(QString());
             continue;
         }
-        QTextLayout layout(paragraph, font(role, scale));
+        QTextLayout layout(paragraph, setting_font(role, scale));
         layout.setTextOption(option);
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
@@ -144,27 +193,28 @@ void draw_text(QPainter& painter, const Scale& scale, const QRectF& box, const Q
     const double left = style.align == Align::Left     ? box.left()
                         : style.align == Align::Center ? box.left() + slack / 2
                                                        : box.left() + slack;
-    const double baseline =
-        std::floor(box.center().y() + baseline_below_middle * scale.exact(face(style.role).size) +
-                   0.5);
-    const double grown = magnification(style.role, scale);
-    const QFont face_font = font(style.role, scale);
+    const double baseline = std::floor(
+        box.center().y() + baseline_below_middle * scale.exact(face(style.role).size) + 0.5);
+    const double reduced = reduction(style.role, scale);
+    const QFont setting = setting_font(style.role, scale);
 
+    if (style.glow == Glow::Led) draw_glow(painter, scale, {left, baseline}, fitted, style);
     const QTransform before = painter.transform();
     painter.translate(left, baseline);
-    if (grown != 1 || fitted.stretch != 1) painter.scale(grown * fitted.stretch, grown);
+    painter.scale(reduced * fitted.stretch, reduced);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (style.glow == Glow::Led) {
-        QPainterPath outline;
-        outline.addText(0, 0, face_font, fitted.text);
-        painter.strokePath(outline, QPen(faded(style.color, glow_opacity),
-                                         scale.exact(glow_width) / grown, Qt::SolidLine,
-                                         Qt::FlatCap, Qt::RoundJoin));
-    }
-    painter.setFont(face_font);
+    painter.setFont(setting);
     painter.setPen(style.color);
     painter.drawText(QPointF(0, 0), fitted.text);
     painter.setTransform(before);
+}
+
+void draw_standing_text(QPainter& painter, const Scale& scale, const QRect& box,
+                        const QString& text, const TextStyle& style) {
+    const double capitals = 2 * baseline_below_middle * scale.exact(face(style.role).size);
+    const double baseline = box.bottom() + 1 - scale.px(1);
+    draw_text(painter, scale, QRectF(box.left(), baseline - capitals, box.width(), capitals), text,
+              style);
 }
 
 void draw_lines(QPainter& painter, const Scale& scale, const QRectF& box, const QStringList& lines,

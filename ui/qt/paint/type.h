@@ -4,12 +4,12 @@
 // middle of a key. Outlines are not hinted, and sizes need not be whole pixels.
 #pragma once
 
+#include "ui/qt/paint/scale.h"
+
 #include <QColor>
 #include <QFont>
 #include <QString>
 #include <QStringList>
-
-#include "ui/qt/paint/scale.h"
 
 class QPainter;
 
@@ -24,11 +24,11 @@ enum class Role {
     SongInformation,  // the LED text box
     Heading,          // also a menu's default item
     FrameCaption,
-    Notice,         // wrapped text on the faceplate
-    SliderLegend,   // L and R under the volume sliders
-    Brand,          // the name on the faceplate
-    MessageShort,   // message box
-    MessageLong,    // message box with much to say
+    Notice,        // wrapped text on the faceplate
+    SliderLegend,  // L and R under the volume sliders
+    Brand,         // the name on the faceplate
+    MessageShort,  // message box
+    MessageLong,   // message box with much to say
 };
 
 struct Face {
@@ -40,8 +40,8 @@ struct Face {
 
 const Face& face(Role role);
 
-// The font for Qt's own text controls. Their sizes are whole pixels, so at a fractional
-// scale it can differ by half a pixel from what the functions below draw.
+// The font for Qt's own text controls. Its size is a whole number of pixels, so at a
+// fractional scale it can differ by half a pixel from what the functions below draw.
 QFont font(Role role, const Scale& scale);
 
 // The advance of one line in device pixels.
@@ -85,6 +85,11 @@ struct TextStyle {
 // One line in a box of device pixels, capitals centred.
 void draw_text(QPainter& painter, const Scale& scale, const QRectF& box, const QString& text,
                const TextStyle& style);
+
+// One line standing 1 px above the bottom of its box, where neighbours of different sizes
+// share a baseline.
+void draw_standing_text(QPainter& painter, const Scale& scale, const QRect& box,
+                        const QString& text, const TextStyle& style);
 
 // Lines from the top of the box, each in a strip of the role's pitch. Lines below the box are
 // drawn too: clip if they must not be seen.

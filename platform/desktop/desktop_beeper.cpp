@@ -1,0 +1,11 @@
+#include "platform/desktop/desktop_beeper.h"
+
+#include <QApplication>
+
+namespace zephyne {
+
+void DesktopBeeper::beep() {
+    QApplication::beep();
+}
+
+}  // namespace zephyne

@@ -1,0 +1,222 @@
+#include "platform/files/posix_file_system.h"
+
+#include "platform/files/descriptor.h"
+#include "platform/files/file_errors.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/volumes.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <optional>
+#include <utility>
+
+namespace zephyne {
+namespace {
+
+constexpr mode_t kNewFileMode = 0666;  // less the user's mask
+
+// Repeats a system call that a signal interrupted.
+template <class Call>
+auto uninterrupted(Call call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) result = call();
+    return result;
+}
+
+// A call on a path, tried as written and then on its match in any case.
+template <class Call>
+auto on_real_path(const std::string& path, Call call) -> decltype(call(path)) {
+    if (path.empty() || path.find('\0') != std::string::npos) {
+        return tl::unexpected(file_error(EINVAL));
+    }
+    auto result = call(path);
+    if (result || result.error().kind != FileErrorKind::not_found) return result;
+    const auto real = find_in_any_case(path);
+    if (!real) return tl::unexpected(real.error());
+    if (*real == path) return result;
+    return call(*real);
+}
+
+// An ordinary file, opened. What it is gets asked before opening, because opening alone already
+// disturbs a pipe's other end or a device; and after, because it may have been exchanged.
+FileResult<Descriptor> open_ordinary(const std::string& path, int flags) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) == 0) {
+        if (!S_ISREG(status.st_mode)) return tl::unexpected(not_an_ordinary_file());
+    } else if (errno != ENOENT || !(flags & O_CREAT)) {
+        return tl::unexpected(file_error(errno));
+    }
+    Descriptor file(uninterrupted([&] {
+        return ::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, kNewFileMode);
+    }));
+    if (!file) return tl::unexpected(file_error(errno));
+    if (::fstat(file.number(), &status) != 0) return tl::unexpected(file_error(errno));
+    if (!S_ISREG(status.st_mode)) return tl::unexpected(not_an_ordinary_file());
+    return file;
+}
+
+FileResult<Descriptor> open_for_reading(const std::string& path) {
+    return on_real_path(path,
+                        [](const std::string& real) { return open_ordinary(real, O_RDONLY); });
+}
+
+class PosixOutputFile final : public OutputFile {
+  public:
+    explicit PosixOutputFile(Descriptor file) : file_(std::move(file)) {}
+
+    FileResult<void> write(std::string_view bytes) override {
+        while (!bytes.empty()) {
+            const auto written =
+                uninterrupted([&] { return ::write(file_.number(), bytes.data(), bytes.size()); });
+            if (written < 0) return tl::unexpected(file_error(errno));
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return {};
+    }
+
+    FileResult<void> close() override {
+        if (!file_.close() && errno != EINTR) return tl::unexpected(file_error(errno));
+        return {};
+    }
+
+  private:
+    Descriptor file_;
+};
+
+enum class Members { files, folders };
+
+// What an entry is, asking the file system only where the folder itself does not tell.
+bool belongs_to(Members which, const dirent& entry, int folder) {
+    unsigned char type = entry.d_type;
+    if (type == DT_LNK || type == DT_UNKNOWN) {
+        struct stat status {};
+        if (::fstatat(folder, entry.d_name, &status, 0) != 0) return false;
+        type = S_ISREG(status.st_mode) ? DT_REG : S_ISDIR(status.st_mode) ? DT_DIR : DT_UNKNOWN;
+    }
+    return type == (which == Members::files ? DT_REG : DT_DIR);
+}
+
+FileResult<std::vector<std::string>> list_as_written(const std::string& folder, Members which) {
+    Descriptor file(uninterrupted(
+        [&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC); }));
+    if (!file) return tl::unexpected(folder_error(errno));
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(::fdopendir(file.number()), ::closedir);
+    if (!stream) return tl::unexpected(folder_error(errno));
+    const int number = file.release();
+
+    std::vector<std::string> names;
+    errno = 0;
+    while (const dirent* entry = ::readdir(stream.get())) {
+        if (entry->d_name[0] != '.' && belongs_to(which, *entry, number)) {
+            names.emplace_back(entry->d_name);
+        }
+        errno = 0;
+    }
+    if (errno != 0) return tl::unexpected(folder_error(errno));
+    return names;
+}
+
+FileResult<std::vector<std::string>> list(const std::string& folder, Members which) {
+    auto names = on_real_path(
+        folder, [which](const std::string& real) { return list_as_written(real, which); });
+    if (!names && names.error().kind == FileErrorKind::not_found) {
+        return tl::unexpected(folder_error(ENOENT));
+    }
+    return names;
+}
+
+// Where a file that is to be written lies or will lie: a file that is there in another case is
+// that file, and a new one goes into its folder under the name as written.
+FileResult<std::string> path_for_writing(const std::string& path) {
+    if (auto there = find_in_any_case(path)) return there;
+    const auto [folder, name] = split_path(path, PathStyle::posix);
+    if (folder.empty()) return path;
+    auto real_folder = find_in_any_case(folder);
+    if (!real_folder) {
+        if (real_folder.error().kind != FileErrorKind::not_found) return real_folder;
+        return tl::unexpected(folder_error(ENOENT));
+    }
+    return joined(*real_folder, name, PathStyle::posix);
+}
+
+}  // namespace
+
+std::string PosixFileSystem::current_folder() const {
+    return working_folder();
+}
+
+std::vector<Volume> PosixFileSystem::volumes() const {
+    return mounted_volumes();
+}
+
+FileResult<std::vector<std::string>> PosixFileSystem::list_files(const std::string& folder) const {
+    return list(folder, Members::files);
+}
+
+FileResult<std::vector<std::string>> PosixFileSystem::list_folders(
+    const std::string& folder) const {
+    return list(folder, Members::folders);
+}
+
+FileResult<std::string> PosixFileSystem::resolve(const std::string& path) const {
+    return on_real_path(path, [](const std::string& real) -> FileResult<std::string> {
+        struct stat status {};
+        if (::stat(real.c_str(), &status) != 0) return tl::unexpected(file_error(errno));
+        return normalised(real);
+    });
+}
+
+FileResult<void> PosixFileSystem::check_readable(const std::string& path) const {
+    const auto file = open_for_reading(path);
+    if (!file) return tl::unexpected(file.error());
+    return {};
+}
+
+FileResult<std::uint64_t> PosixFileSystem::file_length(const std::string& path) const {
+    const auto file = open_for_reading(path);
+    if (!file) return tl::unexpected(file.error());
+    struct stat status {};
+    if (::fstat(file->number(), &status) != 0) return tl::unexpected(file_error(errno));
+    return static_cast<std::uint64_t>(status.st_size);
+}
+
+FileResult<std::string> PosixFileSystem::read_file(const std::string& path,
+                                                   std::size_t limit) const {
+    const auto file = open_for_reading(path);
+    if (!file) return tl::unexpected(file.error());
+
+    // Read until the end rather than for the size: the file may grow or shrink meanwhile, and
+    // some have no size to go by.
+    constexpr std::size_t block = 1U << 16U;
+    struct stat status {};
+    ::fstat(file->number(), &status);
+    std::size_t room = std::min(limit, static_cast<std::size_t>(status.st_size) + 1);
+    std::string contents;
+    std::size_t length = 0;
+    while (length < limit) {
+        if (length == room) room = std::min(limit, room + block);
+        contents.resize(room);
+        const auto read = uninterrupted(
+            [&] { return ::read(file->number(), contents.data() + length, room - length); });
+        if (read < 0) return tl::unexpected(file_error(errno));
+        if (read == 0) break;
+        length += static_cast<std::size_t>(read);
+    }
+    contents.resize(length);
+    return contents;
+}
+
+FileResult<std::unique_ptr<OutputFile>> PosixFileSystem::create_file(const std::string& path) {
+    const auto real = path_for_writing(path);
+    if (!real) return tl::unexpected(real.error());
+    auto file = open_ordinary(*real, O_WRONLY | O_CREAT | O_TRUNC);
+    if (!file) return tl::unexpected(file.error());
+    return std::make_unique<PosixOutputFile>(std::move(*file));
+}
+
+}  // namespace zephyne

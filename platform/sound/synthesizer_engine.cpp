@@ -1,0 +1,89 @@
+#include "platform/sound/synthesizer_engine.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zephyne {
+namespace {
+
+constexpr Milliseconds kProblemCheckInterval = 200;
+
+}  // namespace
+
+SynthesizerEngine::SynthesizerEngine(Scheduler& scheduler, SynthesizerOptions options,
+                                     std::unique_ptr<AudioOutput> output)
+    : problem_check_(scheduler, kProblemCheckInterval),
+      loader_([this, options = std::move(options)] { load_sound_font(options); }),
+      output_(std::move(output)) {
+    output_->connect(renderer_);
+    problem_check_.on_tick = [this] { look_for_problems(); };
+    problem_check_.set_enabled(true);
+}
+
+SynthesizerEngine::~SynthesizerEngine() {
+    loader_.join();
+}
+
+void SynthesizerEngine::load_sound_font(const SynthesizerOptions& options) {
+    const bool chosen = !options.sound_font.empty();
+    const std::vector<std::string> fonts =
+        chosen ? std::vector{options.sound_font} : sound_fonts_in(options.usual_places);
+    const bool loaded = std::any_of(fonts.begin(), fonts.end(), [this](const std::string& font) {
+        return synthesizer_.load_sound_font(font);
+    });
+    if (!loaded) {
+        sound_font_problem_ =
+            chosen ? "The sound font \"" + options.sound_font +
+                         "\" could not be loaded, so MIDI songs play silently."
+                   : "No sound font was found, so MIDI songs play silently. Please install the "
+                     "package fluid-soundfont-gm or timgm6mb-soundfont, or put a sound font "
+                     "(.sf2 or .sf3) into the folder soundfonts in your data folder, usually "
+                     "~/.local/share/soundfonts, and start again.";
+    }
+    renderer_.set_ready();
+}
+
+std::uint64_t SynthesizerEngine::submit(Player& player, PlayWish wish,
+                                        std::shared_ptr<const MidiSong> song) {
+    if (player_ && player_ != &player) player_->synthesizer_taken();
+    player_ = &player;
+    wish.number = next_serial();
+    wish.song = song.get();
+
+    const auto known = std::find_if(songs_.begin(), songs_.end(),
+                                    [&](const HandedOver& entry) { return entry.song == song; });
+    if (known != songs_.end()) {
+        known->number = wish.number;
+    } else if (song) {
+        songs_.push_back({wish.number, std::move(song)});
+    }
+    renderer_.submit(wish);
+    drop_unused_songs();
+    if (wish.state == PlayWish::State::playing) {
+        output_->wake();
+        problem_check_.set_enabled(true);
+    }
+    return wish.number;
+}
+
+void SynthesizerEngine::leave(const Player& player) {
+    if (player_ == &player) player_ = nullptr;
+}
+
+// The song of the wish that is being obeyed was named by that wish or a later one.
+void SynthesizerEngine::drop_unused_songs() {
+    const std::uint64_t obeyed = renderer_.progress().number;
+    std::erase_if(songs_, [obeyed](const HandedOver& entry) { return entry.number < obeyed; });
+}
+
+void SynthesizerEngine::look_for_problems() {
+    if (!ready() || !output_->settled()) return;
+    problem_check_.set_enabled(false);
+    const auto tell = on_problem;  // a copy: telling may take long and end the program
+    const std::string sound_font_problem = std::exchange(sound_font_problem_, {});
+    const auto output_problem = output_->take_problem();
+    if (tell && !sound_font_problem.empty()) tell(sound_font_problem);
+    if (tell && output_problem) tell(*output_problem);
+}
+
+}  // namespace zephyne

@@ -1,0 +1,231 @@
+#include "core/playlist_entry.h"
+#include "core/text/letter_case.h"
+#include "tests/core/control_bench.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <vector>
+
+namespace zephyne::test {
+namespace {
+
+// Names that are easily put in the wrong order: equal but for case or accents' bytes, one the
+// beginning of another, with "|", and not UTF-8 at all.
+class RandomNames {
+  public:
+    std::string name() {
+        static const std::vector<std::string> parts = {
+            "a", "A", "b", ".mid", ".MID", " ", "|", "é", "É", "ß", "ss", "SS", "İ", "Ω", "ω",
+            "\xFF", "\xE9", "~", "1", "-", "ﬁ", "fi"};
+        std::string result;
+        for (auto count = 1 + random_() % 4; count > 0; --count) {
+            result += parts[random_() % parts.size()];
+        }
+        return result;
+    }
+    std::size_t below(std::size_t end) { return random_() % end; }
+
+  private:
+    std::mt19937 random_{1997};
+};
+
+struct Lists : Form {
+    Lists() : Form({.name = "Lists"}) {}
+    ListBox bulk{*this, ListOrder::by_text, {.name = "bulk"}};
+    ListBox one_by_one{*this, ListOrder::by_text, {.name = "one_by_one"}};
+    ListBox entries{*this, ListOrder::by_entry, {.name = "entries"}, split_entry_line};
+    ListBox queue{*this, ListOrder::as_added, {.name = "queue"}};
+};
+
+TEST(SortedList, FilledInBulkOrOneByOneItHoldsTheSameRowsInOrder) {
+    RandomNames random;
+    for (int round = 0; round < 50; ++round) {
+        Lists lists;
+        std::vector<ListItem> items(random.below(40));
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            items[i] = {random.name(), "real " + std::to_string(i)};
+            lists.one_by_one.add(items[i]);
+        }
+        lists.bulk.set_items(items);
+        ASSERT_EQ(lists.bulk.items(), lists.one_by_one.items());
+        ASSERT_EQ(lists.bulk.count(), items.size());
+        for (std::size_t i = 1; i < items.size(); ++i) {
+            const std::string above = lists.bulk.item(i - 1).text;
+            const std::string below = lists.bulk.item(i).text;
+            ASSERT_LE(collation_key(above), collation_key(below)) << above << " before " << below;
+        }
+    }
+}
+
+TEST(SortedList, EntriesStandInStepWithTheirNames) {
+    RandomNames random;
+    for (int round = 0; round < 100; ++round) {
+        Lists lists;
+        std::vector<ListItem> names;
+        std::vector<ListItem> entries;
+        for (auto count = random.below(40); count > 0; --count) {
+            const std::string name = random.name();
+            const std::string folder = random.below(2) == 0 ? "/b/" : "/a/" + random.name() + "/";
+            names.push_back({name, {}});
+            entries.push_back({name + "|" + folder, {}});
+        }
+        lists.bulk.set_items(names);
+        lists.entries.set_items(entries);
+        for (std::size_t row = 0; row < names.size(); ++row) {
+            const auto [name, folder] = split_entry_line(lists.entries.item(row).text);
+            ASSERT_EQ(name, lists.bulk.item(row).text) << "row " << row;
+        }
+    }
+}
+
+TEST(SortedList, OrdersEntriesByNameThenFolder) {
+    Lists lists;
+    for (const char* entry : {"a.mid.mid|/1/", "b.mid|/2/", "a.mid|/z/", "B.mid|/1/", "a.mid|/b/",
+                              "a.mid|/B/", "a|b.mid|/c/"}) {
+        lists.entries.add({entry, {}});
+    }
+    std::vector<std::string> order;
+    for (const ListItem& item : lists.entries.items()) order.push_back(item.text);
+    EXPECT_EQ(order, (std::vector<std::string>{"a.mid|/B/", "a.mid|/b/", "a.mid|/z/",
+                                               "a.mid.mid|/1/", "a|b.mid|/c/", "B.mid|/1/",
+                                               "b.mid|/2/"}));
+}
+
+TEST(SortedList, RowsThatLookTheSameKeepTheirRealNames) {
+    Lists lists;
+    lists.bulk.set_items({{"Song.mid", "SONG.mid"}, {"Another.mid", {}}, {"Song.mid", "song.mid"}});
+    EXPECT_EQ(lists.bulk.item(0).real(), "Another.mid");
+    EXPECT_EQ(lists.bulk.item(1).real(), "SONG.mid");
+    EXPECT_EQ(lists.bulk.item(2).real(), "song.mid");
+    EXPECT_EQ(lists.bulk.add({"Song.mid", "Song.MID"}), 3U) << "behind its likes";
+}
+
+TEST(SortedList, FindsTheFirstRowThatBeginsWithATextInAnyCase) {
+    Lists lists;
+    lists.bulk.set_items({{"Abc.mid", {}}, {"abcd.mid", {}}, {"Élan.mid", {}}, {"Zulu.mid", {}}});
+    EXPECT_EQ(lists.bulk.lower_bound("ab"), 0U);
+    EXPECT_EQ(lists.bulk.lower_bound("ABCD"), 1U);
+    EXPECT_EQ(lists.bulk.lower_bound("abc.mid"), 0U) << "the whole name";
+    EXPECT_EQ(lists.bulk.lower_bound("zulu.mid"), 2U);
+    EXPECT_EQ(lists.bulk.lower_bound("éLAN.mid"), 3U);
+    EXPECT_EQ(lists.bulk.lower_bound("ÿ"), 4U);
+}
+
+TEST(AnyList, TheSelectedRowStaysSelectedWhileItIsThere) {
+    RandomNames random;
+    for (int round = 0; round < 200; ++round) {
+        Lists lists;
+        for (int i = 0; i < 10; ++i) lists.bulk.add({random.name(), std::to_string(i)});
+        lists.bulk.set_selected(random.below(10));
+        const ListItem chosen = lists.bulk.item(*lists.bulk.selected());
+        for (int i = 0; i < 5; ++i) lists.bulk.add({random.name(), "new"});
+        ASSERT_EQ(lists.bulk.item(lists.bulk.selected().value()), chosen);
+        while (lists.bulk.selected()) {
+            ASSERT_EQ(lists.bulk.item(*lists.bulk.selected()), chosen);
+            lists.bulk.remove(random.below(lists.bulk.count()));
+        }
+    }
+}
+
+TEST(AQueue, KeepsTheOrderInWhichItWasFilled) {
+    Lists lists;
+    lists.queue.set_items({{"b", {}}, {"a", {}}});
+    EXPECT_EQ(lists.queue.add({"A", {}}), 2U);
+    EXPECT_EQ(lists.queue.item(0).text, "b");
+}
+
+struct FolderDesk : Form {
+    FolderDesk(PathStyle style, const std::string& folder)
+        : Form({.name = "Folders"}), files(style, folder) {}
+
+    Log rows() const {
+        Log texts;
+        for (const FolderRow& row : folders->rows()) {
+            texts.push_back(std::string(static_cast<std::size_t>(row.depth), '>') + row.text);
+        }
+        return texts;
+    }
+    void open_lists() {
+        drives = std::make_unique<DriveList>(*this, files, ControlDesign{.name = "Drives"});
+        folders = std::make_unique<DirList>(*this, files, ControlDesign{.name = "Folders"});
+    }
+
+    MemoryFileSystem files;
+    std::unique_ptr<DriveList> drives;
+    std::unique_ptr<DirList> folders;
+};
+
+TEST(FolderLists, ShowTheWayFromTheVolumeDownAndWhatLiesBelow) {
+    FolderDesk desk(PathStyle::posix, "/home/clara/music");
+    desk.files.add_volume("/home/clara", "Home");
+    desk.files.add_volume("/", "System");
+    for (const char* name : {"rags", "Blues", "études", "Etudes"}) {
+        desk.files.add_folder("/home/clara/music/" + std::string(name));
+    }
+    desk.open_lists();
+    EXPECT_EQ(desk.drives->drive().name, "Home") << "the longest root";
+    EXPECT_EQ(desk.rows(), (Log{"Home", ">music", ">>Blues", ">>Etudes", ">>rags", ">>études"}));
+    EXPECT_EQ(desk.folders->current_row(), 1U);
+
+    desk.folders->open(5);
+    EXPECT_EQ(desk.folders->path(), "/home/clara/music/études");
+    desk.folders->open(0);
+    EXPECT_EQ(desk.folders->path(), "/home/clara");
+    ASSERT_TRUE(desk.folders->set_path("/home/"));
+    EXPECT_EQ(desk.rows(), (Log{"System", ">home", ">>clara"}));
+    desk.drives->follow(desk.folders->path());
+    EXPECT_EQ(desk.drives->drive().name, "System");
+}
+
+TEST(FolderLists, WorkOnDrivesWithoutRegardToCase) {
+    FolderDesk desk(PathStyle::windows, "C:\\");
+    desk.files.add_volume("C:\\", "c:", "SYSTEM");
+    desk.files.add_volume("D:\\", "d:");
+    desk.files.add_folder("D:\\Songs\\Rags");
+    desk.open_lists();
+    EXPECT_EQ(desk.rows(), Log{"c:"});
+    EXPECT_EQ(desk.drives->drive().text(), "c:  [SYSTEM]");
+    ASSERT_TRUE(desk.drives->set_drive_of("d:\\songs"));
+    ASSERT_TRUE(desk.folders->set_path("d:\\songs\\"));
+    EXPECT_EQ(desk.folders->path(), "D:\\Songs");
+    EXPECT_EQ(desk.rows(), (Log{"d:", ">Songs", ">>Rags"}));
+    EXPECT_FALSE(desk.drives->set_drive_of("E:\\"));
+    EXPECT_EQ(desk.drives->drive().name, "d:");
+}
+
+TEST(FolderLists, StayWhereTheyAreWhenAFolderCannotBeRead) {
+    FolderDesk desk(PathStyle::posix, "/music");
+    desk.files.add_folder("/music/secret");
+    desk.files.add_file("/music/a.mid");
+    desk.open_lists();
+    desk.files.deny("/music/secret");
+    EXPECT_FALSE(desk.folders->set_path("/music/secret"));
+    EXPECT_FALSE(desk.folders->set_path("/music/a.mid"));
+    desk.folders->open(2);
+    EXPECT_EQ(desk.folders->path(), "/music");
+
+    desk.files.remove("/music/secret");
+    desk.folders->open(2);  // seen, but no longer there: the list is read anew
+    EXPECT_EQ(desk.rows(), (Log{"System", ">music"}));
+}
+
+TEST(FolderLists, AChosenDriveStaysChosenWhenOthersComeAndGo) {
+    FolderDesk desk(PathStyle::posix, "/music");
+    desk.files.add_volume("/", "System");
+    desk.files.add_volume("/stick", "Stick");
+    desk.open_lists();
+    desk.drives->choose(1);
+    desk.files.remove("/stick");
+    desk.drives->refresh();
+    EXPECT_EQ(desk.drives->drive().name, "System");
+    desk.files.add_volume("/disc", "Disc");
+    desk.drives->refresh();
+    desk.drives->choose(1);
+    desk.files.add_volume("/stick", "Stick");
+    desk.drives->refresh();
+    EXPECT_EQ(desk.drives->drive().name, "Disc");
+}
+
+}  // namespace
+}  // namespace zephyne::test

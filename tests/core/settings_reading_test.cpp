@@ -1,0 +1,236 @@
+#include "tests/core/settings_desk.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <utility>
+#include <vector>
+
+namespace zephyne::test {
+namespace {
+
+TEST(ReadingSettings, EveryKeyReachesItsField) {
+    SettingsDesk desk;
+    desk.files.add_folder("/music/rags");
+    EXPECT_EQ(desk.read(std::string(kFullFile)), full_settings());
+    EXPECT_EQ(desk.form.Dir1.path(), "/music/rags");
+    EXPECT_EQ(desk.form.Check1.value(), 1);
+    EXPECT_EQ(desk.form.Label10.caption(), "Reverse Alpha");
+    EXPECT_EQ(desk.form.preset(1).tooltip(), "Maple leaf.mid");
+    EXPECT_EQ(desk.form.preset(12).tooltip(), "");
+}
+
+TEST(ReadingSettings, KeysAreRecognisedInAnyLetterCaseAndUnderAnySection) {
+    for (const bool upper : {true, false}) {
+        const auto change = [&](char c) {
+            const auto code = static_cast<unsigned char>(c);
+            return static_cast<char>(upper ? std::toupper(code) : std::tolower(code));
+        };
+        SettingsDesk desk;
+        std::string text = "[Nonsense]\r\nunknown=1\r\nBeeps\r\nNoBeeps=7\r\n";
+        bool in_key = true;
+        for (const char c : kFullFile.substr(kFullFile.find("Left="))) {
+            if (c == '=') in_key = false;
+            if (c == '\n') in_key = true;
+            text += in_key ? change(c) : c;
+        }
+        EXPECT_EQ(desk.read(text), full_settings());
+    }
+}
+
+TEST(ReadingSettings, LinesMayEndInAnyWayAndABomMayComeFirst) {
+    for (const char* text :
+         {"Beeps=0\nShowTips=0\nDisplay=2", "Beeps=0\rShowTips=0\rDisplay=2\r",
+          "\xEF\xBB\xBF"
+          "Beeps=0\r\nShowTips=0\n\rDisplay=2\r\n"}) {
+        SettingsDesk desk;
+        const Settings& settings = desk.read(text);
+        EXPECT_EQ(settings.Beeps, 0) << text;
+        EXPECT_EQ(settings.ShowTips, 0) << text;
+        EXPECT_EQ(settings.Display, 2) << text;
+    }
+}
+
+TEST(ReadingSettings, WithoutAReadableFileTheDefaultsStay) {
+    SettingsDesk missing;
+    ReadSettings(missing.program, missing.form, missing.files);
+    EXPECT_EQ(missing.program.settings, Settings());
+    EXPECT_EQ(missing.form.Label10.caption(), "Random Playback");
+
+    SettingsDesk denied;
+    denied.files.add_file(denied.path(), "Beeps=0\r\n");
+    denied.files.deny(denied.path());
+    ReadSettings(denied.program, denied.form, denied.files);
+    EXPECT_EQ(denied.program.settings, Settings());
+    EXPECT_EQ(denied.form.Label10.caption(), "Random Playback");
+    EXPECT_EQ(denied.log, Log());
+}
+
+TEST(ReadingSettings, NumbersAreReadLenientlyAndThoseOutOfRangeAreSkipped) {
+    const std::int16_t kept = 77;  // what the field holds before the line
+    const std::vector<std::pair<std::string, int>> table = {
+        {"0", 0},        {"", 0},          {"yes", 0},        {" 7", 7},
+        {"\t-7 x", -7},  {"12abc", 12},    {"+3", 3},         {"1.5", 2},
+        {"2.5", 2},      {"0.5", 0},       {"-1.5", -2},      {"-2.5", -2},
+        {".6", 1},       {"1e2", 100},     {"1e", 1},         {"1e-999", 0},
+        {"&H1F", 31},    {"&hff", 255},    {"&O17", 15},      {"&o8", 0},
+        {"32767", 32767}, {"32767.5", kept}, {"-32768.5", -32768}, {"70000", kept},
+        {"1e999", kept}, {"&HFFFFFFFFFFFFFFFFFF", kept},
+    };
+    for (const auto& [text, expected] : table) {
+        SettingsDesk desk;
+        desk.program.settings.Beeps = kept;
+        EXPECT_EQ(desk.read("Beeps=" + text + "\r\nF2Top=5\r\n").Beeps, expected) << text;
+        EXPECT_EQ(desk.program.settings.F2Top, 5) << "the line after " << text;
+    }
+    SettingsDesk desk;
+    EXPECT_EQ(desk.read("Left=2147483647\r\nTop=2147483648\r\n").Left, 2147483647);
+    EXPECT_EQ(desk.program.settings.Top, 0);
+}
+
+TEST(ReadingSettings, ThePauseKeepsItsFraction) {
+    const std::vector<std::pair<std::string, double>> table = {
+        {"1.5", 1.5}, {".25", 0.25}, {"0", 0}, {"", 0}, {"3", 3}, {"1e999", 2}, {"-1", -1}};
+    for (const auto& [text, expected] : table) {
+        SettingsDesk desk;
+        EXPECT_EQ(desk.read("AutoDelayTime=" + text).AutoDelayTime, expected) << text;
+        EXPECT_EQ(desk.program.settings.AutoDelay, 0) << text;
+    }
+}
+
+TEST(ReadingSettings, TheModeIsAWord) {
+    struct Row {
+        std::string word;
+        std::int32_t mode;
+        std::string caption;
+    };
+    constexpr std::int32_t untouched = 77;
+    for (const Row& row : std::vector<Row>{
+             {"Random", PlayMode::Random, "Random Playback"},
+             {"rANDOM", PlayMode::Random, "Random Playback"},
+             {"Alpha", PlayMode::Alpha, "Forward Alpha"},
+             {"alphabetic", PlayMode::Alpha, "Forward Alpha"},
+             {"Manual", PlayMode::Manual, "Manual Select"},
+             {"Preview", PlayMode::Preview, "Preview Mode"},
+             {"Sequential", untouched, ""},
+             {"Random ", untouched, ""},
+             {"Queue", untouched, ""},
+             {"3", untouched, ""},
+             {"", untouched, ""}}) {
+        SettingsDesk desk;
+        desk.program.settings.Mode = untouched;
+        EXPECT_EQ(desk.read("Mode=" + row.word).Mode, row.mode) << row.word;
+        EXPECT_EQ(desk.form.Label10.caption(), row.caption) << row.word;
+    }
+}
+
+TEST(ReadingSettings, TheAlphaCaptionShowsTheDirectionReadBeforeIt) {
+    SettingsDesk before;
+    before.read("Reverse=1\r\nMode=Alpha\r\n");
+    EXPECT_EQ(before.form.Label10.caption(), "Reverse Alpha");
+
+    SettingsDesk after;
+    EXPECT_EQ(after.read("Mode=Alpha\r\nReverse=1\r\n").Reverse, 1);
+    EXPECT_EQ(after.program.settings.Mode, PlayMode::Alpha);
+    EXPECT_EQ(after.form.Label10.caption(), "Forward Alpha");
+}
+
+TEST(ReadingSettings, ManualModeFillsTheCounters) {
+    SettingsDesk desk;
+    desk.form.File1.set_items({{"a.mid", {}}, {"b.mid", {}}});
+    desk.read("Mode=Manual\r\n");
+    EXPECT_EQ(desk.form.Label2.caption(), "2");
+    EXPECT_EQ(desk.form.Label4.caption(), "N/A");
+}
+
+TEST(ReadingSettings, PresetNumbersAreTakenFromTheirTwoPlaces) {
+    struct Row {
+        std::string line;
+        int preset;  // 0: none
+        std::string folder;
+    };
+    for (const Row& row : std::vector<Row>{{"PresetPath01=C:\\X", 1, "C:\\X"},
+                                           {"presetpath12=/a=b ", 12, "/a=b "},
+                                           {"PresetPath09=", 9, ""},
+                                           {"PresetPath00=C:\\X", 0, ""},
+                                           {"PresetPath13=C:\\X", 0, ""},
+                                           {"PresetPath-1=C:\\X", 0, ""},
+                                           {"PresetPath7=C:\\X", 7, ":\\X"},
+                                           {"PresetPath 4/x", 4, "x"},
+                                           {"PresetPath", 0, ""},
+                                           {"PresetPath1", 1, ""},
+                                           {"PresetPathOnly=5", 0, ""}}) {
+        SettingsDesk desk;
+        auto expected = desk.program.settings.PresetPath;
+        for (std::string& folder : desk.program.settings.PresetPath) folder = "kept";
+        for (std::string& folder : expected) folder = "kept";
+        if (row.preset != 0) expected[static_cast<std::size_t>(row.preset) - 1] = row.folder;
+        EXPECT_EQ(desk.read(row.line).PresetPath, expected) << row.line;
+    }
+    SettingsDesk desk;
+    desk.read("PresetFileName3=rag.mid\r\nPresetFileName10=blues.mid\r\nPresetPathOnly=1\r\n");
+    EXPECT_EQ(desk.program.settings.PresetFileName[2], "ag.mid");
+    EXPECT_EQ(desk.form.preset(3).tooltip(), "ag.mid");
+    EXPECT_EQ(desk.form.preset(10).tooltip(), "blues.mid");
+    EXPECT_EQ(desk.program.settings.PresetPathOnly, 1);
+}
+
+TEST(ReadingSettings, TheFolderListsMoveWithoutPassingForTheUser) {
+    SettingsDesk desk(PathStyle::windows);
+    desk.files.add_volume("C:\\", "c:");
+    desk.files.add_volume("D:\\", "d:");
+    desk.files.add_folder("D:\\Songs");
+    desk.form.Drive1.on_change = [&] {
+        desk.log.push_back("drive " + desk.form.Drive1.drive().name);
+        EXPECT_TRUE(desk.program.SwitchingSong);
+    };
+    desk.form.Dir1.on_change = [&] {
+        desk.log.push_back("folder " + desk.form.Dir1.path());
+        EXPECT_TRUE(desk.program.SwitchingSong);
+    };
+    desk.read("LastDir=d:\\songs\r\n");
+    EXPECT_EQ(desk.log, (Log{"drive d:", "folder D:\\Songs"}));
+    EXPECT_FALSE(desk.program.SwitchingSong);
+
+    for (const char* nowhere : {"", "C:\\gone", "X:\\none", "relative"}) {
+        SettingsDesk other(PathStyle::windows);
+        other.form.Dir1.on_change = [&] { other.log.push_back("moved"); };
+        other.read("LastDir=" + std::string(nowhere));
+        EXPECT_EQ(other.form.Dir1.path(), "C:\\music") << nowhere;
+        EXPECT_EQ(other.log, Log()) << nowhere;
+    }
+}
+
+TEST(ReadingSettings, AFolderOfNoNameLeavesTheDriveAlone) {
+    SettingsDesk desk;
+    desk.files.add_volume("/", "System");
+    desk.files.add_volume("/music", "Music");
+    Form1 form(desk.files, desk.scheduler);
+    form.Drive1.on_change = [&] { desk.log.push_back("drive"); };
+    desk.files.add_file(desk.path(), "LastDir=\r\n");
+    ReadSettings(desk.program, form, desk.files);
+    EXPECT_EQ(form.Drive1.drive().name, "Music");
+    EXPECT_EQ(desk.log, Log());
+}
+
+TEST(ReadingSettings, FolderNamesKeepTheirBytes) {
+    SettingsDesk desk;
+    const std::string latin1 = "/music/\xE9t\xE9 ";
+    desk.files.add_folder(latin1);
+    desk.read("LastDir=" + latin1 + "\r\nMoveToDir=" + latin1 + "\r\nPresetPath02=" + latin1);
+    EXPECT_EQ(desk.form.Dir1.path(), latin1);
+    EXPECT_EQ(desk.program.settings.MoveToDir, latin1);
+    EXPECT_EQ(desk.program.settings.PresetPath[1], latin1);
+}
+
+TEST(ReadingSettings, TheVolumeLockRunsItsHandlerOnlyWhenItChanges) {
+    SettingsDesk desk;
+    desk.form.Check1.set_on_click([&] { desk.log.push_back("lock"); });
+    desk.read("VolLocked=0\r\nVolLocked=1\r\nVolLocked=1\r\nVolLocked=70000\r\n");
+    EXPECT_EQ(desk.log, Log{"lock"});
+    EXPECT_EQ(desk.form.Check1.value(), 1);
+}
+
+}  // namespace
+}  // namespace zephyne::test

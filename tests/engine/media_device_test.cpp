@@ -1,0 +1,196 @@
+#include "tests/support/world.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zephyne::test {
+namespace {
+
+// The device by itself: what it reports goes into the log instead of to the player.
+class Device : public testing::Test {
+  protected:
+    Device() {
+        device.on_done = [this](NotifyCode code) {
+            world.log.push_back("Done " + std::to_string(static_cast<int>(code)));
+        };
+        device.on_status_update = nullptr;
+        device.on_key = nullptr;
+    }
+
+    void play(const std::string& name) {
+        device.open_to_play(world.path(name));
+        EXPECT_EQ(device.start(0, world.pump), PlayResult::plays);
+        world.happened();
+    }
+
+    World world{"a.mid", "b.mid", "tune.wav"};
+    MediaDevice& device = world.device;
+};
+
+TEST_F(Device, TheLastFourCharactersOfANameSayWhatPlaysIt) {
+    const std::vector<std::pair<std::string, std::optional<DeviceType>>> table = {
+        {"a.mid", DeviceType::Sequencer},   {"A.MID", DeviceType::Sequencer},
+        {"a.Rmi", DeviceType::Sequencer},   {"a.WAV", DeviceType::WaveAudio},
+        {"a.avi", DeviceType::AVIVideo},    {".mid", DeviceType::Sequencer},
+        {"song.midi", std::nullopt},        {"x.mp3", std::nullopt},
+        {"amid", std::nullopt},             {"mid", std::nullopt},
+        {"", std::nullopt},                 {"/music.mid/readme", std::nullopt},
+    };
+    for (const auto& [name, type] : table) EXPECT_EQ(device_type_of(name), type) << name;
+}
+
+TEST_F(Device, DoneTellsHowAPlayCameToItsEnd) {
+    play("a.mid");
+    world.run_for(180'000);
+    EXPECT_EQ(world.happened(), Log{"Done 1"});
+    device.From = 0;
+    device.command(DeviceCommand::Play);
+    device.command(DeviceCommand::Play);
+    world.pump.pump();
+    EXPECT_EQ(world.happened(), (Log{"play a.mid from 0", "play a.mid", "Done 2"}));
+    device.command(DeviceCommand::Stop);
+    world.pump.pump();
+    EXPECT_EQ(world.happened(), Log{"Done 4"});
+    device.command(DeviceCommand::Play);
+    world.midi.fail();
+    world.pump.pump();
+    EXPECT_EQ(world.happened(), (Log{"play a.mid", "Done 8"}));
+}
+
+TEST_F(Device, APausedSongEndsOnlyAfterItHasBeenResumed) {
+    play("a.mid");
+    world.run_for(60'000);
+    device.PauseDevice();
+    EXPECT_EQ(device.Mode(), DeviceMode::paused);
+    world.run_for(600'000);
+    EXPECT_EQ(device.Position(), 60'000);
+    device.ResumeDevice();
+    world.run_for(119'999);
+    EXPECT_EQ(world.happened(), (Log{"pause a.mid", "play a.mid", "Done 2"}));
+    world.run_for(1);
+    EXPECT_EQ(world.happened(), Log{"Done 1"});
+}
+
+TEST_F(Device, TheEndOfAFileThatHasBeenClosedMeanwhileIsNotReported) {
+    play("a.mid");
+    world.midi.finish();  // the report is on its way
+    device.StopAndClose();
+    device.open_to_play(world.path("b.mid"));
+    world.run_for(1000);
+    EXPECT_EQ(world.happened(), (Log{"close a.mid", "open b.mid"}));
+}
+
+TEST_F(Device, NotifyHoldsForOneCommandOnly) {
+    play("a.mid");
+    device.Notify = false;
+    device.command(DeviceCommand::Play);
+    world.run_for(180'000);
+    EXPECT_EQ(world.happened(), Log{"play a.mid"}) << "nobody wanted to know";
+    device.From = 0;
+    device.command(DeviceCommand::Play);
+    world.run_for(180'000);
+    EXPECT_EQ(world.happened(), (Log{"play a.mid from 0", "Done 1"}));
+}
+
+TEST_F(Device, WaitingForAPlayTakesItsTimeWithoutRunningHandlers) {
+    int handled = 0;
+    world.pump.on_pump = [&] { ++handled; };
+    world.midi.lengths["a.mid"] = 80;
+    device.FileName = world.path("a.mid");
+    device.command(DeviceCommand::Open);
+    const Milliseconds begin = world.clock.now();
+    device.Wait = true;
+    device.command(DeviceCommand::Play);
+    EXPECT_EQ(world.clock.now() - begin, 80);
+    EXPECT_EQ(handled, 0);
+    world.run_for(500);
+    EXPECT_EQ(world.happened(), (Log{"open a.mid", "play a.mid", "Done 1"}));
+}
+
+TEST_F(Device, SeekingGoesToTheNearestMillisecond) {
+    world.midi.lengths["a.mid"] = 1001;
+    play("a.mid");
+    device.PauseDevice();
+    device.SeekPercent(50, world.pump);
+    EXPECT_EQ(device.Mode(), DeviceMode::paused);
+    device.SeekPercent(33, world.pump);
+    EXPECT_EQ(world.happened(), (Log{"pause a.mid", "play a.mid from 500", "pause a.mid",
+                                     "play a.mid from 330", "pause a.mid"}));
+    device.StopAndClose();
+    world.midi.lengths["a.mid"] = 1003;
+    play("a.mid");
+    device.SeekPercent(50, world.pump);
+    EXPECT_EQ(world.happened(), (Log{"Done 4", "play a.mid from 502"}));
+    EXPECT_EQ(device.Mode(), DeviceMode::playing);
+    EXPECT_TRUE(world.form.MMControl1.transport_enabled());
+}
+
+TEST_F(Device, SeekingAStoppedFileDoesNothing) {
+    play("a.mid");
+    device.command(DeviceCommand::Stop);
+    device.SeekPercent(50, world.pump);
+    world.pump.pump();
+    EXPECT_EQ(world.happened(), Log{"Done 4"});
+    EXPECT_EQ(device.Position(), 0);
+}
+
+TEST_F(Device, APlaceToStartFromIsUsedOnceOnly) {
+    device.open_to_play(world.path("a.mid"));
+    device.start(70'000, world.pump);
+    device.StopAndClose();
+    device.open_to_play(world.path("b.mid"));
+    device.start(0, world.pump);
+    EXPECT_EQ(world.happened(), (Log{"open a.mid", "play a.mid from 70000", "close a.mid",
+                                     "open b.mid", "play b.mid"}));
+}
+
+TEST_F(Device, ReloadingLeavesAMidiSongPausedAndAnyOtherStopped) {
+    play("a.mid");
+    device.StopAndClose();
+    device.ReloadPaused(world.path("b.mid"));
+    EXPECT_EQ(device.Mode(), DeviceMode::paused);
+    device.StopAndClose();
+    device.Type = DeviceType::WaveAudio;
+    play("tune.wav");
+    device.ReloadPaused(world.path("tune.wav"));
+    EXPECT_EQ(device.Mode(), DeviceMode::stopped);
+    EXPECT_EQ(world.happened(), (Log{"wave: close tune.wav", "wave: open tune.wav"}));
+}
+
+TEST_F(Device, TheKeysAreDeadWhileItIsSwitchingSongs) {
+    play("a.mid");
+    device.set_transport_enabled(false);
+    world.form.MMControl1.press(TransportKey::pause);
+    EXPECT_EQ(device.Mode(), DeviceMode::playing);
+    device.set_transport_enabled(true);
+    world.form.MMControl1.press(TransportKey::pause);
+    EXPECT_EQ(device.Mode(), DeviceMode::paused);
+    EXPECT_EQ(world.form.MMControl1.light(), TransportLight::pause);
+}
+
+TEST_F(Device, FindsAFileWhoseNameDiffersInCase) {
+    device.open_to_play(world.path("A.Mid"));
+    EXPECT_EQ(world.happened(), Log{"open a.mid"});
+}
+
+TEST_F(Device, AFileThatCannotBeOpenedLeavesItClosed) {
+    world.midi.broken = {"b.mid"};
+    device.open_to_play(world.path("b.mid"));
+    EXPECT_EQ(device.start(0, world.pump), PlayResult::does_not_play);
+    EXPECT_EQ(device.Mode(), DeviceMode::not_open);
+    EXPECT_EQ(device.Length(), 0);
+}
+
+TEST_F(Device, AfterItsEndNoCommandHasAnEffect) {
+    play("a.mid");
+    device.shut_down();
+    device.open_to_play(world.path("b.mid"));
+    EXPECT_EQ(device.start(0, world.pump), PlayResult::does_not_play);
+    EXPECT_EQ(world.happened(), Log{"close a.mid"});
+}
+
+}  // namespace
+}  // namespace zephyne::test

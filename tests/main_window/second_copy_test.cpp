@@ -1,0 +1,131 @@
+#include "tests/support/program_world.h"
+
+#include <gtest/gtest.h>
+
+namespace zephyne::test {
+namespace {
+
+TEST(SecondCopy, BringsTheFirstForwardHandsOverAndEnds) {
+    for (const char* line : {"", "/music/a.mid", "whatever it says"}) {
+        ProgramWorld world;
+        world.hand_over.taken = true;
+        const int opened = world.files.open_count();
+        EXPECT_EQ(world.load("Mode=Alpha\r\n", line), Started::ended);
+        Log sent = {"come forward"};
+        if (*line != '\0') sent.push_back("poke " + std::string(line));
+        EXPECT_EQ(world.hand_over.sent, sent);
+        EXPECT_EQ(world.log, Log());
+        EXPECT_EQ(world.files.open_count(), opened) << "nothing is read or written";
+        EXPECT_FALSE(world.form.loaded());
+        EXPECT_EQ(world.pump.deepest(), 0);
+    }
+}
+
+TEST(FirstCopy, ComesForwardFromWhereverItIs) {
+    ProgramWorld world;
+    world.load("Mode=Manual\r\nAutoHide=1\r\n");
+    ASSERT_EQ(world.window(), "hidden");
+    world.hand_over.on_bring_forward();
+    EXPECT_EQ(world.window(), "shown");
+    world.form.user_changed_state(WindowState::minimized);
+    EXPECT_EQ(world.window(), "hidden");
+    world.hand_over.on_bring_forward();
+    EXPECT_EQ(world.window(), "shown");
+    EXPECT_EQ(world.windows.raised, (Log{"Form1", "Form1"}));
+    EXPECT_EQ(world.hand_over.sent, Log());
+}
+
+TEST(FirstCopy, PlaysASongHandedOverWithinASecondAndAHalf) {
+    ProgramWorld world({"a.mid", "b.mid"});
+    world.load("Mode=Manual\r\n");
+    world.hand_over.on_poke("/music/b.mid");
+    EXPECT_EQ(world.played(), std::vector<std::string>()) << "nothing happens at once";
+    world.run_for(1500);
+    EXPECT_EQ(world.played(), std::vector<std::string>{"b.mid"});
+}
+
+TEST(QueuePlayer, PlaysTheSongOfTheCommandLineInACompactWindow) {
+    ProgramWorld world;
+    EXPECT_EQ(world.load("Mode=Preview\r\nLeft=7\r\nTop=8\r\n", "/music/a.mid"), Started::queue);
+    EXPECT_EQ(world.happened(),
+              (Log{"open gm_reset.aut", "play gm_reset.aut", "close gm_reset.aut", "open a.mid",
+                   "play a.mid", "window shown", "window hidden", "window shown with button"}))
+        << "no tray icon, no tip";
+    EXPECT_EQ(world.form.place(), (Place{(19200 - 2740) / 2, (12000 - 4140) / 2, 2740, 4140}));
+    EXPECT_EQ(world.settings().Mode, PlayMode::Queue);
+    EXPECT_EQ(world.settings().ShowBar, 1);
+    EXPECT_EQ(world.settings().ShowTray, 0);
+    EXPECT_EQ(world.program.CurrentSongName, "/music/a.mid");
+    EXPECT_EQ(world.form.Timer5.interval(), 1000);
+    EXPECT_TRUE(world.form.Command19.visible());
+    EXPECT_TRUE(world.program.StartingUp) << "for the whole run";
+    EXPECT_FALSE(world.program.AutoStarting);
+    EXPECT_TRUE(world.form.File1.empty());
+}
+
+TEST(QueuePlayer, IsShownEvenIfTheProgramStartsHidden) {
+    ProgramWorld world;
+    world.load("AutoHide=1\r\n", "/music/a.mid");
+    EXPECT_EQ(world.window(), "shown with button");
+    world.form.user_changed_state(WindowState::minimized);
+    EXPECT_EQ(world.window(), "minimised with button");
+}
+
+TEST(QueuePlayer, CollectsWhatLaterCopiesHandOver) {
+    ProgramWorld world({"a.mid", "b.mid", "c.mid"});
+    world.load("AutoReset=0\r\n", "/music/a.mid");
+    for (const char* song : {"/music/c.mid", "/music/gone.mid", "/music/b.mid"}) {
+        world.hand_over.on_poke(song);
+        world.run_for(1000);
+    }
+    world.run_for(1000);
+    EXPECT_EQ(World::names(world.form.List2),
+              (std::vector<std::string>{"/music/c.mid", "/music/gone.mid", "/music/b.mid"}));
+    EXPECT_TRUE(world.form.Command19.enabled());
+    world.form.Command19.click();
+    world.form.Command19.click();
+    EXPECT_EQ(world.played(), (std::vector<std::string>{"a.mid", "c.mid", "b.mid"}));
+}
+
+TEST(QueuePlayer, DoesNotStartWithASongThatCannotBeRead) {
+    struct Row {
+        std::string line;
+        std::string why;
+    };
+    for (const Row& row : std::vector<Row>{{"/music/none.mid", "File not found"},
+                                           {"\"/music/a.mid\"", "Path not found"},
+                                           {"/music/secret.mid", "Permission denied"},
+                                           {"/music/a.mid /music/a.mid", "Path not found"}}) {
+        ProgramWorld world({"a.mid", "secret.mid"});
+        world.files.deny("/music/secret.mid");
+        EXPECT_EQ(world.load("Mode=Manual\r\n", row.line), Started::ended);
+        EXPECT_EQ(world.log,
+                  Log{"message: Error on Command Line - " + row.why + ". [Error!]"});
+        EXPECT_EQ(world.files.contents(world.settings_path()), "Mode=Manual\r\n");
+        EXPECT_EQ(world.window(), "hidden");
+        EXPECT_EQ(world.settings().Mode, PlayMode::Manual) << "it never was a queue";
+    }
+}
+
+TEST(QueuePlayer, WritesTheSettingsItFound) {
+    ProgramWorld world;
+    world.load("Mode=Preview\r\nShowBar=0\r\nShowTray=1\r\nConfirmExit=0\r\n", "/music/a.mid");
+    world.form.Command2.click();
+    const std::string file = world.files.contents(world.settings_path()).value();
+    EXPECT_NE(file.find("\r\nShowBar=0\r\nShowTray=1\r\n"), std::string::npos);
+    EXPECT_NE(file.find("\r\nMode=Preview\r\n"), std::string::npos);
+}
+
+TEST(QueuePlayer, CanBeQuitWhileItsFirstSongStarts) {
+    ProgramWorld world;
+    world.midi.broken.insert("a.mid");
+    world.messages.while_open = [&] { world.form.request_unload(CloseReason::session_end); };
+    EXPECT_EQ(world.load("Mode=Preview\r\n", "/music/a.mid"), Started::queue);
+    EXPECT_TRUE(world.program.Ending);
+    EXPECT_EQ(world.window(), "hidden");
+    EXPECT_NE(world.files.contents(world.settings_path())->find("\r\nMode=Preview\r\n"),
+              std::string::npos);
+}
+
+}  // namespace
+}  // namespace zephyne::test

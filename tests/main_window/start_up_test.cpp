@@ -1,0 +1,214 @@
+#include "tests/support/program_world.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace zephyne::test {
+namespace {
+
+TEST(StartUp, GoesFromTheTrayIconToTheFirstSongInThisOrder) {
+    ProgramWorld world({"b.mid", "a.mid"});
+    EXPECT_EQ(world.load("Mode=Alpha\r\n"), Started::normal);
+    EXPECT_EQ(world.happened(),
+              (Log{"tray icon", "window shown", "tip of the day", "open gm_reset.aut",
+                   "play gm_reset.aut", "close gm_reset.aut", "open a.mid", "play a.mid"}));
+    EXPECT_EQ(world.form.title(), "Zephyne - Playing A.mid");
+    EXPECT_TRUE(world.form.loaded());
+    EXPECT_TRUE(world.form.Timer4.enabled());
+    EXPECT_TRUE(world.form.Timer5.enabled());
+    EXPECT_EQ(world.form.Timer5.interval(), 1500);
+    EXPECT_TRUE(world.form.Timer6.enabled());
+    EXPECT_EQ(world.program.StartFolder, "/music");
+    EXPECT_EQ(world.program.HelpFile, "/zephyne/zephyne.hlp");
+    EXPECT_EQ(world.program.NormalExStyle, 0x100);
+    EXPECT_EQ(world.program.TaskbarExStyle, 0x40100);
+    world.expect_flags_at_rest();
+}
+
+TEST(StartUp, OnlyAFolderInRandomAlphaOrPreviewModePlaysByItself) {
+    struct Row {
+        std::string settings;
+        Log played;
+        std::size_t listed;
+    };
+    for (const Row& row :
+         std::vector<Row>{{"Mode=Random", {"a.mid"}, 2},
+                          {"Mode=Alpha", {"a.mid"}, 2},
+                          {"Mode=Alpha\r\nReverse=1", {"b.mid"}, 2},
+                          {"Mode=Preview", {"a.mid"}, 2},
+                          {"Mode=Manual", {}, 2},
+                          {"Mode=Random\r\nPlaylist=1", {}, 0},
+                          {"Mode=Manual\r\nPlaylist=1", {}, 0}}) {
+        ProgramWorld world({"a.mid", "b.mid"});
+        world.load(row.settings);
+        EXPECT_EQ(world.played(), row.played) << row.settings;
+        EXPECT_EQ(world.form.File1.count(), row.listed) << row.settings;
+        world.expect_flags_at_rest();
+    }
+}
+
+TEST(StartUp, APlaylistStartsWithItsOwnLayoutAndWithoutTrayCommands) {
+    ProgramWorld world;
+    world.load("Playlist=1\r\nExtended=0\r\n");
+    EXPECT_FALSE(world.form.Dir1.visible());
+    EXPECT_TRUE(world.form.Label14.visible());
+    EXPECT_EQ(world.form.place().width, 6500);
+    EXPECT_FALSE(world.tray.mnuNext.enabled);
+
+    ProgramWorld folder;
+    folder.load("Playlist=0\r\n");
+    EXPECT_TRUE(folder.tray.mnuNext.enabled);
+}
+
+TEST(StartUp, TheWindowIsNeverLostWhateverIsHidden) {
+    struct Row {
+        std::string settings;
+        bool tray_host;
+        std::string window;
+    };
+    for (const Row& row : std::vector<Row>{
+             {"AutoHide=0\r\nShowBar=0\r\nShowTray=1", true, "shown"},
+             {"AutoHide=0\r\nShowBar=0\r\nShowTray=1", false, "shown with button"},
+             {"AutoHide=0\r\nShowBar=0\r\nShowTray=0", true, "shown with button"},
+             {"AutoHide=0\r\nShowBar=1\r\nShowTray=1", true, "shown with button"},
+             {"AutoHide=1\r\nShowBar=0\r\nShowTray=1", true, "hidden"},
+             {"AutoHide=1\r\nShowBar=0\r\nShowTray=1", false, "minimised with button"},
+             {"AutoHide=1\r\nShowBar=0\r\nShowTray=0", true, "minimised with button"},
+             {"AutoHide=1\r\nShowBar=1\r\nShowTray=1", true, "shown with button"},
+             {"AutoHide=1\r\nShowBar=1\r\nShowTray=0", false, "shown with button"}}) {
+        ProgramWorld world;
+        world.has_tray_host = row.tray_host;
+        world.load(row.settings);
+        EXPECT_EQ(world.window(), row.window) << row.settings << " " << row.tray_host;
+        const bool tip = std::count(world.log.begin(), world.log.end(), "tip of the day") == 1;
+        EXPECT_EQ(tip, row.settings.starts_with("AutoHide=0")) << row.settings;
+    }
+}
+
+TEST(StartUp, TheWindowComesBackToItsPlaceOrToTheMiddle) {
+    struct Row {
+        std::string settings;
+        Place place;
+    };
+    for (const Row& row : std::vector<Row>{
+             {"Left=300\r\nTop=-450", {300, -450, 9000, 6510}},
+             {"Left=0\r\nTop=450", {5100, 2745, 9000, 6510}},
+             {"Left=300\r\nTop=0", {5100, 2745, 9000, 6510}},
+             {"Extended=0", {6350, 2745, 6500, 6510}},
+             {"Left=300\r\nTop=450\r\nExtended=0\r\nShowBar=1", {300, 450, 6500, 6510}}}) {
+        ProgramWorld world;
+        world.load(row.settings + "\r\n");
+        EXPECT_EQ(world.form.place(), row.place) << row.settings;
+    }
+}
+
+TEST(StartUp, TheSettingsAreShownInTheWindow) {
+    ProgramWorld world;
+    world.load("Mode=Manual\r\nDisplay=2\r\nShowTips=0\r\nVolLocked=1\r\n");
+    EXPECT_EQ(world.form.Label10.colour(), 0xFF0000U);
+    EXPECT_EQ(world.form.Command2.tooltip(), "");
+    EXPECT_EQ(world.form.Check1.value(), 1);
+    EXPECT_EQ(world.form.Tens.image(), digit_image(2, 0));
+}
+
+TEST(StartUp, TheFolderShownLastIsShownAgain) {
+    ProgramWorld world({"a.mid"});
+    world.files.add_volume("/", "System");
+    world.files.add_volume("/stick", "Stick");
+    world.files.add_file("/stick/rags/maple.mid");
+    world.load("LastDir=/stick/rags\r\n");
+    EXPECT_EQ(world.form.Drive1.drive().name, "Stick");
+    EXPECT_EQ(world.played(), std::vector<std::string>{"maple.mid"}) << "and only that";
+    EXPECT_EQ(world.program.StartFolder, "/music");
+}
+
+TEST(StartUp, AFolderThatHasGoneIsPassedOverInSilence) {
+    for (const char* last : {"/stick/rags", "/music/gone"}) {
+        ProgramWorld world({"a.mid"});
+        world.files.add_volume("/", "System");
+        world.files.add_volume("/stick", "Stick");
+        world.files.deny("/stick");
+        world.load("LastDir=" + std::string(last));
+        EXPECT_EQ(world.form.Drive1.drive().name, "System") << last;
+        EXPECT_EQ(world.form.Dir1.path(), "/music") << last;
+        EXPECT_EQ(world.happened().front(), "tray icon") << "no message before the window";
+    }
+}
+
+TEST(StartUp, LooksForTheResetSequenceOfTheChosenType) {
+    for (const bool present : {true, false}) {
+        ProgramWorld world;
+        if (!present) world.files.remove("/zephyne/gs_reset.aut");
+        world.load("ResetType=2\r\nMode=Manual\r\n");
+        EXPECT_EQ(world.program.ResetFilePresent, present);
+        world.click("a.mid");
+        EXPECT_EQ(world.happened().at(3), present ? "open gs_reset.aut" : "open a.mid");
+    }
+}
+
+TEST(StartUp, FilesThatComeWithTheProgramMayLieWhereItIsInstalled) {
+    ProgramWorld world;
+    world.program.folders.installed = "/share";
+    world.files.add_file("/share/zephyne.hlp");
+    world.files.remove("/zephyne/gm_reset.aut");
+    world.files.add_file("/share/gm_reset.aut");
+    world.load("Mode=Manual\r\n");
+    EXPECT_EQ(world.program.HelpFile, "/share/zephyne.hlp");
+    EXPECT_TRUE(world.program.ResetFilePresent);
+}
+
+TEST(FirstStart, PlaysTheDemoSongsWhereTheFolderHasNone) {
+    for (const char* home : {"/zephyne", "/share"}) {
+        ProgramWorld world({"readme.txt", "noise.wav"});
+        world.program.folders.installed = "/share";
+        world.files.add_file(std::string(home) + "/songs/demo.mid");
+        world.load_without_settings();
+        EXPECT_EQ(world.form.Dir1.path(), std::string(home) + "/songs");
+        EXPECT_EQ(world.played(), std::vector<std::string>{"demo.mid"}) << "once";
+        EXPECT_EQ(world.form.Label10.caption(), "Random Playback");
+        world.expect_flags_at_rest();
+    }
+}
+
+TEST(FirstStart, StaysInAFolderThatHasSongs) {
+    ProgramWorld world({"own.mid"});
+    world.files.add_file("/zephyne/songs/demo.mid");
+    world.load_without_settings();
+    EXPECT_EQ(world.played(), std::vector<std::string>{"own.mid"});
+
+    ProgramWorld bare({});
+    bare.load_without_settings();
+    EXPECT_EQ(bare.form.Dir1.path(), "/music") << "no demo songs are installed";
+    EXPECT_EQ(bare.form.title(), "Zephyne");
+}
+
+TEST(FirstStart, IsNotEveryStartWithoutReadableSettings) {
+    ProgramWorld world({});
+    world.files.add_file("/zephyne/songs/demo.mid");
+    world.files.add_file(world.settings_path());
+    world.files.deny(world.settings_path());
+    world.load_without_settings();
+    EXPECT_EQ(world.form.Dir1.path(), "/music");
+}
+
+TEST(Activation, KeepsTheWindowsPlaceExceptInTheQueuePlayer) {
+    ProgramWorld world;
+    world.load("Mode=Manual\r\n");
+    world.form.user_moved(120, 345);
+    EXPECT_EQ(world.settings().Left, 0) << "not before it is active again";
+    world.form.user_activated();
+    EXPECT_EQ(world.settings().Left, 120);
+    EXPECT_EQ(world.settings().Top, 345);
+
+    ProgramWorld queue;
+    queue.load("Left=7\r\nTop=8\r\n", "/music/a.mid");
+    queue.form.user_moved(120, 345);
+    queue.form.user_activated();
+    EXPECT_EQ(queue.settings().Left, 7);
+    EXPECT_EQ(queue.settings().Top, 8);
+}
+
+}  // namespace
+}  // namespace zephyne::test

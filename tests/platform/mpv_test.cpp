@@ -1,0 +1,248 @@
+#include "platform/desktop/qt_event_pump.h"
+#include "platform/desktop/steady_clock.h"
+#include "platform/video/mpv_backend.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <chrono>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace zephyne {
+namespace {
+
+constexpr Milliseconds kTooLong = 3000;
+constexpr std::uint32_t kRate = 44100;
+
+// Numbers as RIFF files have them, the low byte first.
+std::string bytes16(std::uint32_t value) {
+    return {static_cast<char>(value), static_cast<char>(value >> 8U)};
+}
+std::string bytes32(std::uint32_t value) {
+    return bytes16(value & 0xFFFFU) + bytes16(value >> 16U);
+}
+std::string chunk(const std::string& name, const std::string& contents) {
+    return name + bytes32(static_cast<std::uint32_t>(contents.size())) + contents;
+}
+
+// Sixteen-bit mono silence.
+std::string wave_of(Milliseconds length) {
+    const std::string format =
+        bytes16(1) + bytes16(1) + bytes32(kRate) + bytes32(2 * kRate) + bytes16(2) + bytes16(16);
+    const std::string sound(2 * kRate * static_cast<std::size_t>(length) / 1000, '\0');
+    return chunk("RIFF", "WAVE" + chunk("fmt ", format) + chunk("data", sound));
+}
+
+// Uncompressed pictures of 16 by 16, one each 100 ms, without sound.
+std::string video_of(std::uint32_t pictures) {
+    const std::uint32_t size = 16 * 16 * 3;
+    const std::string none = bytes32(0);
+    const std::string main = bytes32(100000) + bytes32(10 * size) + none + none +
+                             bytes32(pictures) + none + bytes32(1) + bytes32(size) + bytes32(16) +
+                             bytes32(16) + none + none + none + none;
+    const std::string stream = "vidsDIB " + none + none + none + bytes32(1) + bytes32(10) + none +
+                               bytes32(pictures) + bytes32(size) + none + none + none + none;
+    const std::string picture = bytes32(40) + bytes32(16) + bytes32(16) + bytes16(1) + bytes16(24) +
+                                none + bytes32(size) + none + none + none + none;
+    std::string frames;
+    for (std::uint32_t i = 0; i < pictures; ++i) {
+        frames += chunk("00db", std::string(size, static_cast<char>(20 * i)));
+    }
+    const std::string streams =
+        chunk("LIST", "strl" + chunk("strh", stream) + chunk("strf", picture));
+    return chunk("RIFF", "AVI " + chunk("LIST", "hdrl" + chunk("avih", main) + streams) +
+                             chunk("LIST", "movi" + frames));
+}
+
+class MpvBackendTest : public testing::Test {
+  protected:
+    MpvBackendTest() {
+        std::string pattern = testing::TempDir() + "zephyne-mpv-XXXXXX";
+        folder_ = ::mkdtemp(pattern.data());
+        backend_.on_finished = [this] {
+            ++ends_;
+            EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
+            EXPECT_EQ(backend_.position(), backend_.length());
+        };
+        backend_.on_failed = [] { ADD_FAILURE() << "playing failed"; };
+    }
+    ~MpvBackendTest() override { std::filesystem::remove_all(folder_); }
+
+    std::string file(const std::string& name, const std::string& contents) const {
+        const std::string path = folder_ + "/" + name;
+        std::ofstream(path, std::ios::binary) << contents;
+        return path;
+    }
+    void open_wave(Milliseconds length) {
+        const auto opened = backend_.open(file("sound.wav", wave_of(length)));
+        ASSERT_TRUE(opened) << opened.error();
+    }
+    std::string error_of(const std::string& path) {
+        const auto opened = backend_.open(path);
+        EXPECT_EQ(backend_.mode(), opened ? DeviceMode::stopped : DeviceMode::not_open);
+        return opened ? "none" : opened.error();
+    }
+    void run_for(Milliseconds time) {
+        RepeatingTimer alarm(scheduler_, time);
+        bool over = false;
+        alarm.on_tick = [&] { over = true; };
+        alarm.set_enabled(true);
+        while (!over) pump_.wait();
+    }
+    void run_until_end() {
+        const Milliseconds deadline = clock_.now() + kTooLong;
+        const int before = ends_;
+        while (ends_ == before && clock_.now() < deadline) run_for(5);
+    }
+
+    std::string folder_;
+    SteadyClock clock_;
+    Scheduler scheduler_{clock_};
+    QtEventPump pump_{scheduler_};
+    MpvBackend backend_{scheduler_, "null"};
+    int ends_ = 0;
+};
+
+TEST_F(MpvBackendTest, LengthIsExactAndTheEndIsToldOnceAndNotTooEarly) {
+    open_wave(150);
+    EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
+    EXPECT_EQ(backend_.length(), 150);
+    EXPECT_EQ(backend_.position(), 0);
+    for (int round = 1; round <= 2; ++round) {
+        const Milliseconds start = clock_.now();
+        backend_.play_from(0);
+        EXPECT_EQ(backend_.mode(), DeviceMode::playing);
+        run_until_end();
+        EXPECT_EQ(ends_, round);
+        EXPECT_GE(clock_.now() - start, 140) << "the end before must not be taken for the new one";
+    }
+    run_for(30);
+    EXPECT_EQ(ends_, 2);
+}
+
+TEST_F(MpvBackendTest, PlacesAreExactAndKeptThroughPauseAndStop) {
+    open_wave(60000);
+    backend_.pause();
+    EXPECT_EQ(backend_.mode(), DeviceMode::paused);
+    backend_.play_from(30000);
+    EXPECT_EQ(backend_.position(), 30000) << "before the player has even begun to seek";
+    while (backend_.position() == 30000) run_for(5);
+    backend_.pause();
+    const Milliseconds place = backend_.position();
+    EXPECT_GT(place, 30000);
+    EXPECT_LT(place, 32000);
+    run_for(50);
+    EXPECT_EQ(backend_.position(), place);
+    backend_.play();
+    run_for(20);
+    EXPECT_GE(backend_.position(), place);
+    backend_.stop();
+    EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
+    EXPECT_LT(backend_.position(), 33000);
+    backend_.play_from(-5);
+    EXPECT_EQ(backend_.position(), 0);
+}
+
+TEST_F(MpvBackendTest, PlayingWhereNothingIsLeftEndsAfterAMoment) {
+    open_wave(0);
+    EXPECT_EQ(backend_.length(), 0);
+    backend_.play();
+    EXPECT_EQ(backend_.mode(), DeviceMode::playing);
+    EXPECT_EQ(ends_, 0);
+    run_until_end();
+    EXPECT_EQ(ends_, 1);
+
+    open_wave(60000);
+    backend_.play_from(70000);
+    EXPECT_EQ(backend_.mode(), DeviceMode::playing);
+    EXPECT_EQ(backend_.position(), 60000);
+    run_until_end();
+    EXPECT_EQ(ends_, 2);
+}
+
+TEST_F(MpvBackendTest, EndThatComesDuringAPauseIsToldWhenPlayingGoesOn) {
+    open_wave(50);
+    backend_.play();
+    std::this_thread::sleep_for(std::chrono::milliseconds(250));  // no events are handled here
+    backend_.pause();
+    run_for(20);
+    EXPECT_EQ(ends_, 0);
+    EXPECT_EQ(backend_.mode(), DeviceMode::paused);
+    backend_.play();
+    run_until_end();
+    EXPECT_EQ(ends_, 1);
+}
+
+TEST_F(MpvBackendTest, EndThatWasWaitedForOrClosedAwayIsNotTold) {
+    open_wave(60);
+    backend_.wait_until_finished();  // returns at once: nothing plays
+    backend_.play();
+    const Milliseconds start = clock_.now();
+    backend_.wait_until_finished();
+    EXPECT_GE(clock_.now() - start, 50);
+    EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
+    EXPECT_EQ(backend_.position(), 60);
+
+    backend_.play_from(0);
+    std::this_thread::sleep_for(std::chrono::milliseconds(150));
+    backend_.close();
+    EXPECT_EQ(backend_.mode(), DeviceMode::not_open);
+    EXPECT_EQ(backend_.length(), 0);
+    run_for(30);
+    EXPECT_EQ(ends_, 0);
+    backend_.play();
+    backend_.stop();
+    EXPECT_EQ(backend_.mode(), DeviceMode::not_open);
+}
+
+TEST_F(MpvBackendTest, WhatIsNoSoundOrVideoIsRefusedWithAWord) {
+    EXPECT_EQ(error_of(folder_ + "/gone.wav"), "File not found");
+    EXPECT_EQ(error_of(folder_), "Not an ordinary file");
+    ::mkfifo((folder_ + "/pipe.wav").c_str(), 0600);
+    EXPECT_EQ(error_of(folder_ + "/pipe.wav"), "Not an ordinary file");
+    EXPECT_EQ(error_of(file("empty.wav", "")), "The file has an unknown format");
+    EXPECT_EQ(error_of(file("text.wav", "no sound at all")), "The file has an unknown format");
+
+    const std::string song = file("real.wav", wave_of(100));
+    EXPECT_EQ(error_of(file("list.wav", "#EXTM3U\n" + song + "\n")),
+              "The file has an unknown format")
+        << "a list of other files must not be followed";
+    EXPECT_EQ(error_of(file("edl.wav", "# mpv EDL v0\n" + song + "\n")),
+              "The file has an unknown format");
+    EXPECT_EQ(error_of(song), "none") << "the player has survived all that";
+}
+
+TEST_F(MpvBackendTest, DamagedFilesPlayAsFarAsTheyGo) {
+    const std::string whole = wave_of(1000);
+    ASSERT_EQ(error_of(file("cut.wav", whole.substr(0, whole.size() / 10))), "none");
+    backend_.play();
+    run_until_end();
+    EXPECT_EQ(ends_, 1);
+}
+
+TEST_F(MpvBackendTest, NamesAreBytesAndNoCommands) {
+    for (const char* name : {"\xE9t\xE9 \x80.wav", "${path} $$ %n.wav", "http:--a.wav", "#1.wav"}) {
+        EXPECT_EQ(error_of(file(name, wave_of(20))), "none") << name;
+        EXPECT_EQ(backend_.length(), 20);
+    }
+}
+
+TEST_F(MpvBackendTest, VideoWithoutSoundPlaysToItsEnd) {
+    const auto opened = backend_.open(file("clip.avi", video_of(3)));
+    ASSERT_TRUE(opened) << opened.error();
+    EXPECT_EQ(backend_.length(), 300);
+    const Milliseconds start = clock_.now();
+    backend_.play_from(100);
+    run_until_end();
+    EXPECT_EQ(ends_, 1);
+    EXPECT_GE(clock_.now() - start, 100);
+}
+
+}  // namespace
+}  // namespace zephyne

@@ -1,0 +1,326 @@
+// The sequencer's back end as the media device sees it, over a synthesizer whose sound is pumped
+// by the test, or by a clock where it is about threads. No sound font is needed here.
+#include "platform/desktop/steady_clock.h"
+#include "platform/sound/sequencer_backend.h"
+#include "smf_builder.h"
+#include "tests/support/virtual_time.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace zephyne {
+namespace {
+
+using namespace test;
+namespace fs = std::filesystem;
+
+// Where the sound goes when a test pumps it.
+class PumpedOutput final : public AudioOutput {
+  public:
+    AudioSource* source = nullptr;
+    int woken = 0;
+    std::optional<std::string> problem;
+
+    void connect(AudioSource& connected) override { source = &connected; }
+    void wake() override { ++woken; }
+    bool settled() const override { return true; }
+    std::optional<std::string> take_problem() override { return std::exchange(problem, {}); }
+
+    void pump(FrameCount frames) {
+        float left[500];
+        float right[500];
+        for (; frames > 0; frames -= 500) {
+            source->render(left, right, static_cast<int>(std::min<FrameCount>(frames, 500)));
+        }
+    }
+};
+
+// A folder of songs, gone at the end.
+class Folder {
+  public:
+    Folder() : path_(fs::temp_directory_path() / ("zephyne-sound-" + std::to_string(getpid()))) {
+        fs::create_directories(path_);
+    }
+    ~Folder() { fs::remove_all(path_); }
+    std::string file(const std::string& name) const { return (path_ / name).string(); }
+    std::string write(const std::string& name, const Bytes& bytes) const {
+        std::ofstream(file(name), std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()),
+                   static_cast<std::streamsize>(bytes.size()));
+        return file(name);
+    }
+    std::string song(std::uint32_t milliseconds) const {
+        return write(
+            std::to_string(milliseconds) + ".mid",
+            smf(0, kTicksAreMilliseconds, {Track().note_on(0, 60, 1).end_at(milliseconds)}));
+    }
+
+  private:
+    fs::path path_;
+};
+
+void wait_until_ready(const SynthesizerEngine& engine) {
+    while (!engine.ready()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+}
+
+class BackendTest : public testing::Test {
+  protected:
+    BackendTest() {
+        wait_until_ready(engine_);
+        backend_.on_finished = [this] {
+            EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
+            EXPECT_EQ(backend_.position(), backend_.length());
+            ++finished_;
+        };
+    }
+
+    void pump(Milliseconds time) { output_.pump(frame_at_millisecond(time)); }
+
+    Folder folder_;
+    VirtualClock clock_;
+    Scheduler scheduler_{clock_};
+    VirtualPump events_{clock_, scheduler_};
+    std::unique_ptr<PumpedOutput> owned_output_ = std::make_unique<PumpedOutput>();
+    PumpedOutput& output_ = *owned_output_;
+    SynthesizerEngine engine_{scheduler_, {.usual_places = {}}, std::move(owned_output_)};
+    SequencerBackend backend_{scheduler_, engine_};
+    int finished_ = 0;
+};
+
+TEST_F(BackendTest, OpensOnlyOrdinaryMidiFilesAndSaysWhyNot) {
+    const std::string pipe = folder_.file("pipe.mid");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const std::string huge = folder_.write("huge.mid", header(0, 1, 480));
+    fs::resize_file(huge, (std::uintmax_t{64} << 20) + 1);
+    for (const std::string& path :
+         {folder_.file("missing.mid"), pipe, huge, fs::path(pipe).parent_path().string(),
+          std::string("/dev/zero"), folder_.write("text.mid", {'x'})}) {
+        ASSERT_TRUE(backend_.open(folder_.song(1)).has_value());
+        const auto opened = backend_.open(path);
+        ASSERT_FALSE(opened.has_value()) << path;
+        EXPECT_FALSE(opened.error().empty());
+        EXPECT_NE(opened.error().back(), '.');
+        EXPECT_EQ(backend_.mode(), DeviceMode::not_open);
+        EXPECT_EQ(backend_.length(), 0);
+        backend_.play();
+        backend_.pause();
+        backend_.stop();
+        EXPECT_EQ(backend_.mode(), DeviceMode::not_open);
+    }
+}
+
+TEST_F(BackendTest, LengthAndPositionAreExactToTheMillisecond) {
+    ASSERT_TRUE(backend_.open(folder_.song(1234)).has_value());
+    EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
+    EXPECT_EQ(backend_.length(), 1234);
+    EXPECT_EQ(backend_.position(), 0);
+    backend_.play();
+    EXPECT_EQ(backend_.mode(), DeviceMode::playing);
+    pump(700);
+    EXPECT_LE(backend_.position(), 700);
+    backend_.pause();
+    pump(50);
+    EXPECT_EQ(backend_.mode(), DeviceMode::paused);
+    EXPECT_EQ(backend_.position(), 700);
+    backend_.play_from(33);
+    EXPECT_EQ(backend_.position(), 33);  // before and after the synthesizer knows
+    backend_.pause();
+    pump(50);
+    EXPECT_EQ(backend_.position(), 33);
+    backend_.play();
+    pump(100);
+    backend_.stop();
+    pump(50);
+    EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
+    EXPECT_EQ(backend_.position(), 133);
+    backend_.close();
+    EXPECT_EQ(backend_.mode(), DeviceMode::not_open);
+    EXPECT_EQ(backend_.position(), 0);
+}
+
+TEST_F(BackendTest, ThePositionNeverGoesBackWhilePlaying) {
+    ASSERT_TRUE(backend_.open(folder_.song(1000)).has_value());
+    backend_.play_from(500);
+    Milliseconds last = 0;
+    for (int i = 0; i < 40; ++i) {
+        pump(10);
+        const Milliseconds position = backend_.position();
+        EXPECT_GE(position, std::max<Milliseconds>(last, 500));
+        EXPECT_LE(position, 500 + 10 * (i + 1));
+        last = position;
+    }
+}
+
+TEST_F(BackendTest, TheEndIsReportedOnceFromTheEventLoop) {
+    ASSERT_TRUE(backend_.open(folder_.song(200)).has_value());
+    backend_.play();
+    pump(300);
+    EXPECT_EQ(backend_.mode(), DeviceMode::playing);  // until it has been reported
+    events_.run_for(199);
+    EXPECT_EQ(finished_, 0);
+    events_.run_for(1);
+    EXPECT_EQ(finished_, 1);
+    events_.run_for(10'000);
+    EXPECT_EQ(finished_, 1);
+}
+
+TEST_F(BackendTest, AnOverdueEndIsWaitedFor) {
+    ASSERT_TRUE(backend_.open(folder_.song(200)).has_value());
+    backend_.play();
+    events_.run_for(10'000);  // the device is slow to open
+    EXPECT_EQ(finished_, 0);
+    pump(201);
+    events_.run_for(200);
+    EXPECT_EQ(finished_, 1);
+}
+
+TEST_F(BackendTest, ASongOfNoLengthPlaysForAMoment) {
+    ASSERT_TRUE(backend_.open(folder_.song(0)).has_value());
+    EXPECT_EQ(backend_.length(), 0);
+    backend_.play();
+    pump(10);
+    events_.run_for(10);
+    EXPECT_EQ(backend_.mode(), DeviceMode::playing);
+    EXPECT_EQ(finished_, 0);
+    events_.run_for(30);
+    EXPECT_EQ(finished_, 1);
+    EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
+}
+
+TEST_F(BackendTest, PlayingFromTheEndOrBeyondEndsAtOnceAndAnewEachTime) {
+    ASSERT_TRUE(backend_.open(folder_.song(200)).has_value());
+    for (int round = 1; round <= 3; ++round) {
+        if (round < 3) {
+            backend_.play_from(5000);
+        } else {
+            backend_.play();  // is at the end already
+        }
+        EXPECT_EQ(backend_.position(), 200);
+        pump(1);
+        events_.run_for(30);
+        EXPECT_EQ(finished_, round);
+    }
+    backend_.play_from(0);
+    pump(100);
+    EXPECT_LE(backend_.position(), 100);
+    events_.run_for(150);
+    EXPECT_EQ(finished_, 3);
+}
+
+TEST_F(BackendTest, NothingIsReportedAfterAStopAPauseOrAClose) {
+    for (void (SequencerBackend::*end)() :
+         {&SequencerBackend::stop, &SequencerBackend::pause, &SequencerBackend::close}) {
+        ASSERT_TRUE(backend_.open(folder_.song(50)).has_value());
+        backend_.play();
+        pump(100);  // over, but not reported yet
+        (backend_.*end)();
+        pump(100);
+        events_.run_for(1000);
+        EXPECT_EQ(finished_, 0);
+    }
+}
+
+TEST_F(BackendTest, AStoppedSongCanBePausedInPlaceAndPlayedFromThere) {
+    ASSERT_TRUE(backend_.open(folder_.song(500)).has_value());
+    backend_.pause();
+    EXPECT_EQ(backend_.mode(), DeviceMode::paused);
+    EXPECT_EQ(output_.woken, 0);
+    backend_.play();
+    pump(100);
+    backend_.pause();
+    EXPECT_EQ(backend_.mode(), DeviceMode::paused);
+    pump(1);
+    EXPECT_EQ(backend_.position(), 100);
+}
+
+TEST_F(BackendTest, TheLaterOfTwoPlayersTakesTheSynthesizerAndTheOtherGoesOnFromWhereItWas) {
+    SequencerBackend other(scheduler_, engine_);
+    ASSERT_TRUE(backend_.open(folder_.song(500)).has_value());
+    ASSERT_TRUE(other.open(folder_.song(400)).has_value());
+    backend_.play();
+    pump(100);
+    other.play();
+    backend_.position();
+    pump(50);
+    EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
+    const Milliseconds place = backend_.position();
+    EXPECT_LE(place, 100);
+    backend_.stop();  // is no business of the other
+    EXPECT_EQ(other.mode(), DeviceMode::playing);
+    other.close();
+    backend_.play();
+    pump(60);
+    backend_.stop();
+    pump(1);
+    EXPECT_EQ(backend_.position(), place + 60);
+}
+
+TEST_F(BackendTest, WaitingForTheEndBlocksAndLeavesNothingToReport) {
+    ASSERT_TRUE(backend_.open(folder_.song(20)).has_value());
+    backend_.wait_until_finished();  // does not play
+    backend_.play();
+    std::atomic<bool> quit = false;
+    std::thread device([&] {
+        while (!quit) {
+            pump(1);
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    });
+    backend_.wait_until_finished();
+    quit = true;
+    device.join();
+    EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
+    EXPECT_EQ(backend_.position(), 20);
+    events_.run_for(1000);
+    EXPECT_EQ(finished_, 0);
+}
+
+TEST_F(BackendTest, WhatIsWrongWithTheSoundIsToldOnceEach) {
+    std::vector<std::string> told;
+    engine_.on_problem = [&](const std::string& sentence) { told.push_back(sentence); };
+    output_.problem = "No device.";
+    events_.run_for(1000);
+    ASSERT_EQ(told.size(), 2U);
+    EXPECT_NE(told[0].find("fluid-soundfont-gm"), std::string::npos);
+    EXPECT_EQ(told[1], "No device.");
+    ASSERT_TRUE(backend_.open(folder_.song(20)).has_value());
+    backend_.play();
+    events_.run_for(1000);
+    EXPECT_EQ(told.size(), 2U);
+}
+
+// With threads, clocks and all.
+TEST(SequencerBackend, PlaysToItsEndInRealTimeOnTheSilentOutput) {
+    const Folder folder;
+    const SteadyClock clock;
+    Scheduler scheduler(clock);
+    SynthesizerEngine engine(scheduler, {}, make_audio_output("null"));
+    SequencerBackend backend(scheduler, engine);
+    int finished = 0;
+    backend.on_finished = [&] { ++finished; };
+    const Milliseconds begin = clock.now();
+    for (int round = 1; round <= 3; ++round) {
+        ASSERT_TRUE(backend.open(folder.song(60)).has_value());
+        backend.play();
+        while (finished < round && clock.now() < begin + 20'000) {
+            scheduler.dispatch_due();
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+        ASSERT_EQ(finished, round);
+        EXPECT_EQ(backend.position(), 60);
+    }
+    EXPECT_GE(clock.now() - begin, 180 - 30);  // rendered ahead by at most one buffer
+}
+
+}  // namespace
+}  // namespace zephyne

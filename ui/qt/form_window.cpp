@@ -1,0 +1,348 @@
+#include "ui/qt/form_window.h"
+
+#include "core/controls/simple_controls.h"
+#include "core/ports/window_host.h"
+#include "ui/qt/key_codes.h"
+#include "ui/qt/make_mirror.h"
+#include "ui/qt/pictures.h"
+#include "ui/qt/popup_look.h"
+#include "ui/qt/shown_text.h"
+#include "ui/qt/taskbar_button.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPaintEvent>
+#include <QTextDocument>
+#include <QToolTip>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+
+namespace zephyne {
+namespace {
+
+using namespace std::chrono_literals;
+
+// A window manager moves a new window about until its frame is on; a user's hand rests.
+constexpr auto rest_after_move = 150ms;
+
+// What a window manager needs between showing a window and changing its state.
+constexpr auto settle_after_show = 50ms;
+
+constexpr Qt::WindowFlags main_window = Qt::Window | Qt::WindowTitleHint |
+                                        Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                                        Qt::WindowCloseButtonHint;
+constexpr Qt::WindowFlags dialog = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                   Qt::WindowCloseButtonHint;
+
+bool is_modifier(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Shift:
+        case Qt::Key_Control:
+        case Qt::Key_Alt:
+        case Qt::Key_AltGr:
+        case Qt::Key_Meta:
+        case Qt::Key_Super_L:
+        case Qt::Key_Super_R: return true;
+        default: return false;
+    }
+}
+
+WindowState state_of(const QWidget& window) {
+    if (window.isMinimized()) return WindowState::minimized;
+    return window.isMaximized() ? WindowState::maximized : WindowState::normal;
+}
+
+Qt::WindowStates qt_state(WindowState state) {
+    switch (state) {
+        case WindowState::minimized: return Qt::WindowMinimized;
+        case WindowState::maximized: return Qt::WindowMaximized;
+        case WindowState::normal: break;
+    }
+    return Qt::WindowNoState;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, double factor)
+    : QWidget(nullptr, main_window),
+      form_(form),
+      pixels_(pixels_of(*this, factor)),
+      tooltip_look_(new QWidget(this)),
+      extended_style_(kAppWindowStyle) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setWindowIcon(pictures::application_icon());
+    tooltip_look_->setStyleSheet(popup_look::tooltip(factor));
+    tooltip_look_->hide();
+    moved_.setSingleShot(true);
+    moved_.setInterval(rest_after_move);
+    connect(&moved_, &QTimer::timeout, this, &FormWindow::report_place);
+
+    for (Control* control : form_.controls()) mirrors_.push_back(make_mirror(*this, *control));
+    form_.observe(this);
+    setWindowTitle(shown(form_.title()));
+    use_scale();
+    for (const auto& mirror : mirrors_) mirror->attach();
+    set_tab_order();
+    take_place();
+    if (form_.visible()) show_or_hide();
+}
+
+FormWindow::~FormWindow() {
+    if (attached_) form_.observe(nullptr);
+}
+
+void FormWindow::end() {
+    if (!std::exchange(attached_, false)) return;
+    form_.observe(nullptr);
+    for (const auto& mirror : mirrors_) mirror->detach();
+    hide();
+    deleteLater();
+}
+
+void FormWindow::subject_gone() {
+    end();
+}
+
+void FormWindow::set_tab_order() {
+    std::vector<const Mirror*> stops;
+    for (const auto& mirror : mirrors_) {
+        if (mirror->widget() && mirror->control().tab_stop() == TabStop::yes) {
+            stops.push_back(mirror.get());
+        }
+    }
+    std::stable_sort(stops.begin(), stops.end(), [](const Mirror* a, const Mirror* b) {
+        return a->control().tab() < b->control().tab();
+    });
+    for (std::size_t i = 1; i < stops.size(); ++i) {
+        setTabOrder(stops[i - 1]->widget(), stops[i]->widget());
+    }
+}
+
+void FormWindow::use_scale() {
+    pixels_ = pixels_of(*this, pixels_.factor);
+    for (const auto& mirror : mirrors_) mirror->lay_out();
+    update();
+}
+
+QSize FormWindow::client_size() const {
+    return {pixels_.logical(form_.place().width), pixels_.logical(form_.client_height())};
+}
+
+QPoint FormWindow::position() const {
+    return {pixels_.logical(form_.place().left), pixels_.logical(form_.place().top)};
+}
+
+void FormWindow::take_place() {
+    if (client_size() != size() || minimumSize() != size()) setFixedSize(client_size());
+    if (position() != pos() && form_.state() == WindowState::normal) move(position());
+}
+
+void FormWindow::show_or_hide() {
+    if (!form_.visible()) {
+        hide();
+        return;
+    }
+    set_taskbar_button(*this, (extended_style_ & kAppWindowStyle) != 0 ? TaskbarButton::yes
+                                                                       : TaskbarButton::no);
+    take_place();
+    take_state();
+    show();
+}
+
+void FormWindow::take_state() {
+    if (state_of(*this) == form_.state()) return;
+    const Qt::WindowStates kept =
+        windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen);
+    setWindowState(kept | qt_state(form_.state()));
+}
+
+void FormWindow::property_changed(Property property) {
+    switch (property) {
+        case Property::title: setWindowTitle(shown(form_.title())); break;
+        case Property::place: take_place(); break;
+        case Property::visible: show_or_hide(); break;
+        case Property::state: take_state(); break;
+        default: break;
+    }
+}
+
+void FormWindow::make_modal(QWidget* above) {
+    const bool was_visible = isVisible();
+    setWindowFlags(dialog);  // hides
+    setWindowModality(Qt::ApplicationModal);
+    winId();  // the window handle comes with it
+    if (above && above != this) windowHandle()->setTransientParent(above->windowHandle());
+    if (was_visible) show();
+}
+
+void FormWindow::come_forward() {
+    form_.set_visible(true);
+    QTimer::singleShot(settle_after_show, this, [this] {
+        if (!isVisible()) return;
+        setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+        raise();
+        activateWindow();
+    });
+}
+
+void FormWindow::repaint(const QRect& device) {
+    if (!device.isEmpty()) update(pixels_.containing(device));
+}
+
+Mirror* FormWindow::mirror_of(const Control* control) const {
+    const auto found = std::find_if(mirrors_.begin(), mirrors_.end(), [&](const auto& mirror) {
+        return &mirror->control() == control;
+    });
+    return found == mirrors_.end() ? nullptr : found->get();
+}
+
+paint::Focus FormWindow::focus_look(const Control& control) const {
+    if (form_.focused() != &control || !isActiveWindow()) return paint::Focus::None;
+    return keyboard_used_ ? paint::Focus::Ring : paint::Focus::Quiet;
+}
+
+void FormWindow::follow_focus() {
+    const Mirror* mirror = mirror_of(form_.focused());
+    if (mirror && mirror->widget() && mirror->widget() != focusWidget()) {
+        mirror->widget()->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void FormWindow::key_used(const QKeyEvent& event) {
+    if (is_modifier(event) || std::exchange(keyboard_used_, true)) return;
+    if (Mirror* mirror = mirror_of(form_.focused())) mirror->repaint();
+}
+
+void FormWindow::mouse_used() {
+    if (!std::exchange(keyboard_used_, false)) return;
+    if (Mirror* mirror = mirror_of(form_.focused())) mirror->repaint();
+}
+
+bool FormWindow::press_answer_key(const QKeyEvent& event) {
+    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
+    Control* answer = nullptr;
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter: answer = form_.default_button(); break;
+        case Qt::Key_Escape: answer = form_.cancel_button(); break;
+        default: break;
+    }
+    if (!answer || answer->kind() != ControlKind::button || !answer->shown() ||
+        !answer->usable()) {
+        return false;
+    }
+    // A key held down must not answer the next question, too.
+    if (!event.isAutoRepeat()) static_cast<Button*>(answer)->click();
+    return true;
+}
+
+void FormWindow::report_released_key(const QKeyEvent& event) {
+    const int code = key_code(event);
+    if (code != 0 && !event.isAutoRepeat()) form_.user_released_key(code);
+}
+
+void FormWindow::show_tooltip(const QPoint& screen_point, const QString& text) {
+    const QString plain = Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+    QToolTip::showText(screen_point, plain, tooltip_look_);
+}
+
+void FormWindow::paintEvent(QPaintEvent* event) {
+    DevicePainter painter(*this);
+    const paint::Scale scale = pixels_.scale();
+    paint::faceplate(painter, scale, pixels_.device(rect()));
+    if (!attached_) return;
+
+    const auto dirty = [&](const QRect& reach) {
+        return std::any_of(event->region().begin(), event->region().end(), [&](const QRect& part) {
+            return pixels_.device(part).intersects(reach);
+        });
+    };
+    const auto paint_one = [&](const Mirror& mirror) {
+        if (mirror.control().shown() && dirty(mirror.reach())) mirror.paint(painter, scale);
+    };
+    // The focus ring lies above the neighbours.
+    const Mirror* focused = mirror_of(form_.focused());
+    for (const auto& mirror : mirrors_) {
+        if (mirror.get() != focused) paint_one(*mirror);
+    }
+    if (focused) paint_one(*focused);
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::use_scale,
+            Qt::UniqueConnection);
+    if (pixels_of(*this, pixels_.factor).ratio != pixels_.ratio) use_scale();
+    if (form_.focused()) {
+        follow_focus();
+    } else if (!focusWidget()) {
+        focusNextChild();
+    }
+}
+
+void FormWindow::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (event->spontaneous()) return;  // minimised
+    report_place();
+    if (on_hidden) on_hidden();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    report_place();
+    if (attached_) form_.request_unload(CloseReason::user);
+}
+
+void FormWindow::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    if (isVisible()) moved_.start();
+}
+
+void FormWindow::report_place() {
+    if (!moved_.isActive() && sender() != &moved_) return;
+    moved_.stop();
+    if (!attached_ || position() == pos() || state_of(*this) != WindowState::normal) return;
+    form_.user_moved(pixels_.twips(x()), pixels_.twips(y()));
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (!attached_ || !isVisible() || size() == client_size()) return;
+    if (state_of(*this) != WindowState::normal) return;
+    form_.user_resized(pixels_.twips(width()),
+                       pixels_.twips(height()) + kTitleBarHeight + kLowerFrameHeight);
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (!attached_) return;
+    switch (event->type()) {
+        case QEvent::WindowStateChange: form_.user_changed_state(state_of(*this)); break;
+        case QEvent::ActivationChange:
+            if (Mirror* mirror = mirror_of(form_.focused())) mirror->repaint();
+            break;
+        default: break;
+    }
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    event->ignore();
+    if (!attached_ || (focusWidget() && focusWidget() != this)) return;
+    key_used(*event);
+    event->setAccepted(press_answer_key(*event));
+}
+
+void FormWindow::keyReleaseEvent(QKeyEvent* event) {
+    event->ignore();
+    if (!attached_ || (focusWidget() && focusWidget() != this)) return;
+    report_released_key(*event);
+}
+
+bool FormWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && attached_) form_.user_activated();
+    return QWidget::event(event);
+}
+
+}  // namespace zephyne
