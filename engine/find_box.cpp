@@ -27,14 +27,11 @@ void FindBox::text2_Change() {
     if (f.File1.empty() || !f.text2.enabled() || stage_.program.FindSync) return;
     if (f.text2.text().empty()) return between_.EnableControls(Reselect::yes);
 
-    // Rows that begin with the text stand together. Where letters differ in case a few of them may
-    // sort before it.
-    const auto begins_so = [&](std::size_t row) {
-        return starts_with_ignoring_case(f.File1.item(row).text, f.text2.text());
-    };
-    std::size_t row = f.File1.lower_bound(f.text2.text());
-    while (row > 0 && begins_so(row - 1)) --row;
-    if (row == f.File1.count() || !begins_so(row)) return;
+    // Rows that begin with the text stand together, from the first row that does not sort before
+    // it.
+    const std::size_t row = f.File1.lower_bound(f.text2.text());
+    if (row == f.File1.count()) return;
+    if (!starts_with_ignoring_case(f.File1.item(row).text, f.text2.text())) return;
     const FlagGuard switching(stage_.program.SwitchingSong);
     f.File1.set_selected(row);
     between_.DisableControls();

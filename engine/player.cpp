@@ -53,13 +53,14 @@ void Player::PlayFile() {
     if (program.Ending) return;
     if (result == PlayResult::overtaken) return let_choose();
     if (result == PlayResult::does_not_play) {
+        // First the window, then the message: a song may be handed over while that is open.
+        f.set_title("Zephyne");
+        display_.ClearTimeDisplay();
+        let_choose();
         stage_.messages.ShowDlgMessage(
             "Error - MCI Device may be in use or file may be corrupt or have been deleted.", 0,
             "Error");
-        f.set_title("Zephyne");
-        display_.ClearTimeDisplay();
-        stage_.events.pump();
-        return let_choose();
+        return stage_.events.pump();
     }
 
     f.set_title("Zephyne - Playing " + program.CurrentSongName);
@@ -124,10 +125,10 @@ void Player::show_waiting() {
 bool Player::song_still_there() {
     Program& program = stage_.program;
     if (stage_.files.check_readable(program.CurrentSongPath)) return true;
-    stage_.messages.ShowDlgMessage("File was apparently deleted or moved.", 0, "Error");
     program.CurrentSongName.clear();
     program.CurrentSongPath.clear();
     StopDevice();
+    stage_.messages.ShowDlgMessage("File was apparently deleted or moved.", 0, "Error");
     return false;
 }
 

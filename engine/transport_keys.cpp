@@ -104,7 +104,8 @@ void TransportKeys::StopClick(bool& cancel) {
         case SongKind::none:
             break;
     }
-    if (!player_.song_still_there()) return;
+    cancel = !player_.song_still_there();
+    if (cancel) return;
     device.ReloadPaused(program.CurrentSongPath);
     const unsigned opening = device.opening();
     stage_.form.set_title("Zephyne");

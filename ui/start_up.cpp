@@ -73,6 +73,7 @@ void StartUp::set_up() {
     layout_.led_colour();
     f.Timer4.set_enabled(true);
     f.Timer6.set_enabled(true);
+    f.MMControl1.set_focus();  // Space plays and pauses
 }
 
 // Somebody who has never used the program gets the songs of the folder it was started in, and

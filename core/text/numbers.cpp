@@ -97,8 +97,8 @@ std::string decimal(std::int64_t value) {
 std::string decimal(double value) {
     if (value == 0) return "0";  // also for -0
     const double size = std::abs(value);
-    const auto format = size >= 1e-5 && size < 1e15 ? std::chars_format::fixed
-                                                    : std::chars_format::scientific;
+    const auto format =
+        size >= 1e-5 && size < 1e15 ? std::chars_format::fixed : std::chars_format::scientific;
     char digits[64];
     const auto shortest = std::to_chars(digits, digits + sizeof digits, value, format);
     std::string text(digits, shortest.ptr);

@@ -4,7 +4,8 @@
 #include "platform/sound/clock_audio_device.h"
 #include "platform/sound/library_audio_device.h"
 
-#include <chrono>
+#include <stdlib.h>
+
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -56,9 +57,18 @@ AudioPlan plan_for(const std::string& choice) {
     return plan;
 }
 
+// For the client libraries: no sound server is started by us, and in the list of those who play
+// we have our own name. The environment is only safe to change while nobody else reads it.
+void introduce_ourselves() {
+    constexpr int kKeepWhatTheUserSet = 0;
+    ::setenv("JACK_NO_START_SERVER", "1", kKeepWhatTheUserSet);
+    ::setenv("PULSE_PROP_OVERRIDE", "application.name=Zephyne", kKeepWhatTheUserSet);
+}
+
 }  // namespace
 
 std::unique_ptr<AudioOutput> make_audio_output(const std::string& choice) {
+    introduce_ourselves();
     return std::make_unique<AudioKeeper>(plan_for(choice));
 }
 

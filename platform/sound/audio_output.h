@@ -32,6 +32,8 @@ class AudioOutput {
 // "null" (nothing to hear), or "file:PATH" (a WAVE file of all that is played). Without a device
 // the sound goes nowhere, in real time, and so it goes on if a device dies and does not come back.
 //
+// To be called before other threads run, because it sets environment variables.
+//
 // A thread of its own opens and closes devices and watches over them. Between songs, when all is
 // silent for some seconds, no device is open.
 std::unique_ptr<AudioOutput> make_audio_output(const std::string& choice);

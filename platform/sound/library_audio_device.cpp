@@ -16,8 +16,10 @@ class LibraryAudioDevice final : public AudioDevice {
         if (!settings_) return;
         fluid_settings_setstr(settings_, "audio.driver", driver.c_str());
         fluid_settings_setnum(settings_, "synth.sample-rate", kFramesPerSecond);
-        // Shorter buffers run dry on a busy machine.
-        fluid_settings_setint(settings_, "audio.period-size", 1024);
+        // 93 ms of buffer: shorter ones run dry on a busy machine. PulseAudio gets one period and
+        // does not know the other setting.
+        const bool one_period = driver == "pulseaudio";
+        fluid_settings_setint(settings_, "audio.period-size", one_period ? 4096 : 1024);
         fluid_settings_setint(settings_, "audio.periods", 4);
         // The driver would put a role into the environment, while other threads may read that.
         fluid_settings_setstr(settings_, "audio.pulseaudio.media-role", "");

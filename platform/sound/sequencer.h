@@ -25,8 +25,8 @@ class Sequencer {
     // frame are still due.
     void seek(FrameCount frame);
 
-    void send_due_events();                           // all up to and with the current frame
-    FrameCount frames_to_next_stop() const;                // to the next event or the end; 0 when due
+    void send_due_events();                  // all up to and with the current frame
+    FrameCount frames_to_next_stop() const;  // to the next event or the end; 0 when due
     void advance(FrameCount frames) { frame_ += frames; }  // at most frames_to_next_stop()
 
     FrameCount frame() const { return frame_; }

@@ -109,7 +109,8 @@ Milliseconds SequencerBackend::position() const {
     const PlayProgress progress = engine_.progress();
     if (progress.number != wish_number_) return position_;  // the wish is not obeyed yet
     if (progress.finished) return position_ = length_;
-    const FrameCount frame = mode_ == DeviceMode::playing ? frame_now(progress) : progress.end_frame;
+    const FrameCount frame =
+        mode_ == DeviceMode::playing ? frame_now(progress) : progress.end_frame;
     return position_ = std::max(position_, std::min(millisecond_at(frame), length_));
 }
 

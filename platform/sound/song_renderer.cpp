@@ -58,7 +58,8 @@ int SongRenderer::render_piece(float* left, float* right, int frames) {
             synthesizer_.release_notes();
             enter(Activity::ringing, SoundFlow::heard);
         } else {
-            frames = static_cast<int>(std::min<FrameCount>(frames, sequencer_.frames_to_next_stop()));
+            frames =
+                static_cast<int>(std::min<FrameCount>(frames, sequencer_.frames_to_next_stop()));
         }
     }
     synthesizer_.render(left, right, frames);

@@ -34,8 +34,8 @@ struct PlayWish {
 struct PlayProgress {
     std::uint64_t number = 0;      // of the wish that it answers
     std::int64_t rendered_at = 0;  // when that piece was begun: steady clock, nanoseconds
-    FrameCount first_frame = 0;         // the place in the song at its begin
-    FrameCount end_frame = 0;           // and at its end
+    FrameCount first_frame = 0;    // the place in the song at its begin
+    FrameCount end_frame = 0;      // and at its end
     bool finished = false;         // the song has come to its end under this wish
 };
 

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <new>
+#include <system_error>
 
 namespace zephyne {
 namespace {
@@ -43,7 +45,8 @@ Synthesizer::~Synthesizer() = default;
 
 bool Synthesizer::load_sound_font(const std::string& path) {
     constexpr int kGiveChannelsTheirPrograms = 1;
-    return fluid_is_soundfont(path.c_str()) &&
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(path, ignored) && fluid_is_soundfont(path.c_str()) &&
            fluid_synth_sfload(synth_.get(), path.c_str(), kGiveChannelsTheirPrograms) !=
                FLUID_FAILED;
 }

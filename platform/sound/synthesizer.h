@@ -33,7 +33,8 @@ class Synthesizer final : public MidiSink {
     Synthesizer(const Synthesizer&) = delete;
     Synthesizer& operator=(const Synthesizer&) = delete;
 
-    // False when that is no sound font. Takes up to seconds. Without any font all is silent.
+    // False when that is no sound font, or not an ordinary file. Takes up to seconds. Without any
+    // font all is silent.
     bool load_sound_font(const std::string& path);
 
     void note_off(int channel, int key) override;

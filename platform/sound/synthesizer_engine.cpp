@@ -6,7 +6,7 @@
 namespace zephyne {
 namespace {
 
-constexpr Milliseconds kProblemCheckInterval = 200;
+constexpr Milliseconds kProblemCheckInterval = 250;
 
 }  // namespace
 
@@ -78,7 +78,7 @@ void SynthesizerEngine::drop_unused_songs() {
 
 void SynthesizerEngine::look_for_problems() {
     if (!ready() || !output_->settled()) return;
-    problem_check_.set_enabled(false);
+    if (renderer_.idle()) problem_check_.set_enabled(false);  // until the next song
     const auto tell = on_problem;  // a copy: telling may take long and end the program
     const std::string sound_font_problem = std::exchange(sound_font_problem_, {});
     const auto output_problem = output_->take_problem();

@@ -16,8 +16,8 @@ class RandomNames {
   public:
     std::string name() {
         static const std::vector<std::string> parts = {
-            "a", "A", "b", ".mid", ".MID", " ", "|", "é", "É", "ß", "ss", "SS", "İ", "Ω", "ω",
-            "\xFF", "\xE9", "~", "1", "-", "ﬁ", "fi"};
+            "a",  "A", "b", ".mid", ".MID", " ",    "|", "é", "É", "ß", "ss",
+            "SS", "İ", "Ω", "ω",    "\xFF", "\xE9", "~", "1", "-", "ﬁ", "fi"};
         std::string result;
         for (auto count = 1 + random_() % 4; count > 0; --count) {
             result += parts[random_() % parts.size()];
@@ -87,9 +87,9 @@ TEST(SortedList, OrdersEntriesByNameThenFolder) {
     }
     std::vector<std::string> order;
     for (const ListItem& item : lists.entries.items()) order.push_back(item.text);
-    EXPECT_EQ(order, (std::vector<std::string>{"a.mid|/B/", "a.mid|/b/", "a.mid|/z/",
-                                               "a.mid.mid|/1/", "a|b.mid|/c/", "B.mid|/1/",
-                                               "b.mid|/2/"}));
+    EXPECT_EQ(order,
+              (std::vector<std::string>{"a.mid|/B/", "a.mid|/b/", "a.mid|/z/", "a.mid.mid|/1/",
+                                        "a|b.mid|/c/", "B.mid|/1/", "b.mid|/2/"}));
 }
 
 TEST(SortedList, RowsThatLookTheSameKeepTheirRealNames) {

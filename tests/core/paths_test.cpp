@@ -44,10 +44,10 @@ TEST(Paths, SplitBehindTheirLastSeparator) {
 
 TEST(Paths, TheLastFourCharactersTellTheKindOfSong) {
     const std::vector<std::pair<std::string, SongKind>> table = {
-        {"a.mid", SongKind::midi},  {"/x.mid/A.MID", SongKind::midi}, {"a.RmI", SongKind::midi},
-        {"a.wav", SongKind::wave},  {"a.AVI", SongKind::video},       {".mid", SongKind::midi},
-        {"a.midi", SongKind::none}, {"mid", SongKind::none},          {"", SongKind::none},
-        {"\xE9.mid", SongKind::midi}, {"a.mid ", SongKind::none},     {"amid", SongKind::none}};
+        {"a.mid", SongKind::midi},    {"/x.mid/A.MID", SongKind::midi}, {"a.RmI", SongKind::midi},
+        {"a.wav", SongKind::wave},    {"a.AVI", SongKind::video},       {".mid", SongKind::midi},
+        {"a.midi", SongKind::none},   {"mid", SongKind::none},          {"", SongKind::none},
+        {"\xE9.mid", SongKind::midi}, {"a.mid ", SongKind::none},       {"amid", SongKind::none}};
     for (const auto& [path, kind] : table) EXPECT_EQ(song_kind(path), kind) << path;
 }
 

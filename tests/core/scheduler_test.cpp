@@ -42,8 +42,8 @@ TEST(Scheduler, HandlesTheEarliestFirstAndEqualsInTheOrderTheyWereMade) {
     const auto quick = stand.timer("quick", 100);
     const auto also = stand.timer("also", 300);
     stand.pump.run_for(300);
-    EXPECT_EQ(stand.log, (Log{"quick at 100", "quick at 200", "slow at 300", "quick at 300",
-                              "also at 300"}));
+    EXPECT_EQ(stand.log,
+              (Log{"quick at 100", "quick at 200", "slow at 300", "quick at 300", "also at 300"}));
 }
 
 TEST(Scheduler, EventsComeOneAtATimeInTheOrderTheyWerePosted) {
@@ -77,10 +77,9 @@ TEST(Scheduler, AHandlerThatPumpsIsNotEnteredAgainWhileTheOthersGoOn) {
         patient->on_tick = [&] { stand.note("patient again"); };
     };
     stand.pump.run_for(600);
-    EXPECT_EQ(stand.log,
-              (Log{"other at 100", "patient begins at 150", "other at 200", "other at 300",
-                   "other at 400", "other at 500", "patient ends at 550", "patient again at 550",
-                   "other at 600"}));
+    EXPECT_EQ(stand.log, (Log{"other at 100", "patient begins at 150", "other at 200",
+                              "other at 300", "other at 400", "other at 500", "patient ends at 550",
+                              "patient again at 550", "other at 600"}));
 }
 
 TEST(Scheduler, AMissedTickComesOnceAndLate) {

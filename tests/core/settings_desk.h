@@ -13,8 +13,7 @@ namespace zephyne::test {
 
 struct SettingsDesk {
     explicit SettingsDesk(PathStyle style = PathStyle::posix)
-        : files(style, style == PathStyle::posix ? "/music" : "C:\\music"),
-          form(files, scheduler) {
+        : files(style, style == PathStyle::posix ? "/music" : "C:\\music"), form(files, scheduler) {
         program.folders.own = style == PathStyle::posix ? "/zephyne" : "C:\\zephyne";
         files.add_folder(program.folders.own);
     }

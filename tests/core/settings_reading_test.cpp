@@ -40,10 +40,9 @@ TEST(ReadingSettings, KeysAreRecognisedInAnyLetterCaseAndUnderAnySection) {
 }
 
 TEST(ReadingSettings, LinesMayEndInAnyWayAndABomMayComeFirst) {
-    for (const char* text :
-         {"Beeps=0\nShowTips=0\nDisplay=2", "Beeps=0\rShowTips=0\rDisplay=2\r",
-          "\xEF\xBB\xBF"
-          "Beeps=0\r\nShowTips=0\n\rDisplay=2\r\n"}) {
+    for (const char* text : {"Beeps=0\nShowTips=0\nDisplay=2", "Beeps=0\rShowTips=0\rDisplay=2\r",
+                             "\xEF\xBB\xBF"
+                             "Beeps=0\r\nShowTips=0\n\rDisplay=2\r\n"}) {
         SettingsDesk desk;
         const Settings& settings = desk.read(text);
         EXPECT_EQ(settings.Beeps, 0) << text;
@@ -70,13 +69,32 @@ TEST(ReadingSettings, WithoutAReadableFileTheDefaultsStay) {
 TEST(ReadingSettings, NumbersAreReadLenientlyAndThoseOutOfRangeAreSkipped) {
     const std::int16_t kept = 77;  // what the field holds before the line
     const std::vector<std::pair<std::string, int>> table = {
-        {"0", 0},        {"", 0},          {"yes", 0},        {" 7", 7},
-        {"\t-7 x", -7},  {"12abc", 12},    {"+3", 3},         {"1.5", 2},
-        {"2.5", 2},      {"0.5", 0},       {"-1.5", -2},      {"-2.5", -2},
-        {".6", 1},       {"1e2", 100},     {"1e", 1},         {"1e-999", 0},
-        {"&H1F", 31},    {"&hff", 255},    {"&O17", 15},      {"&o8", 0},
-        {"32767", 32767}, {"32767.5", kept}, {"-32768.5", -32768}, {"70000", kept},
-        {"1e999", kept}, {"&HFFFFFFFFFFFFFFFFFF", kept},
+        {"0", 0},
+        {"", 0},
+        {"yes", 0},
+        {" 7", 7},
+        {"\t-7 x", -7},
+        {"12abc", 12},
+        {"+3", 3},
+        {"1.5", 2},
+        {"2.5", 2},
+        {"0.5", 0},
+        {"-1.5", -2},
+        {"-2.5", -2},
+        {".6", 1},
+        {"1e2", 100},
+        {"1e", 1},
+        {"1e-999", 0},
+        {"&H1F", 31},
+        {"&hff", 255},
+        {"&O17", 15},
+        {"&o8", 0},
+        {"32767", 32767},
+        {"32767.5", kept},
+        {"-32768.5", -32768},
+        {"70000", kept},
+        {"1e999", kept},
+        {"&HFFFFFFFFFFFFFFFFFF", kept},
     };
     for (const auto& [text, expected] : table) {
         SettingsDesk desk;
@@ -106,18 +124,17 @@ TEST(ReadingSettings, TheModeIsAWord) {
         std::string caption;
     };
     constexpr std::int32_t untouched = 77;
-    for (const Row& row : std::vector<Row>{
-             {"Random", PlayMode::Random, "Random Playback"},
-             {"rANDOM", PlayMode::Random, "Random Playback"},
-             {"Alpha", PlayMode::Alpha, "Forward Alpha"},
-             {"alphabetic", PlayMode::Alpha, "Forward Alpha"},
-             {"Manual", PlayMode::Manual, "Manual Select"},
-             {"Preview", PlayMode::Preview, "Preview Mode"},
-             {"Sequential", untouched, ""},
-             {"Random ", untouched, ""},
-             {"Queue", untouched, ""},
-             {"3", untouched, ""},
-             {"", untouched, ""}}) {
+    for (const Row& row : std::vector<Row>{{"Random", PlayMode::Random, "Random Playback"},
+                                           {"rANDOM", PlayMode::Random, "Random Playback"},
+                                           {"Alpha", PlayMode::Alpha, "Forward Alpha"},
+                                           {"alphabetic", PlayMode::Alpha, "Forward Alpha"},
+                                           {"Manual", PlayMode::Manual, "Manual Select"},
+                                           {"Preview", PlayMode::Preview, "Preview Mode"},
+                                           {"Sequential", untouched, ""},
+                                           {"Random ", untouched, ""},
+                                           {"Queue", untouched, ""},
+                                           {"3", untouched, ""},
+                                           {"", untouched, ""}}) {
         SettingsDesk desk;
         desk.program.settings.Mode = untouched;
         EXPECT_EQ(desk.read("Mode=" + row.word).Mode, row.mode) << row.word;

@@ -54,9 +54,8 @@ TEST(WritingSettings, EveryFieldHasItsLineInItsPlace) {
 
 TEST(WritingSettings, TimesAreWrittenShortlyAndZeroesLeftOut) {
     const std::vector<std::pair<double, std::string>> table = {
-        {2, "2"},     {2.5, "2.5"}, {0.5, ".5"},       {-0.5, "-.5"},
-        {0.1, ".1"},  {60, "60"},   {0.1 + 0.2, ".3"}, {0, "(none)"},
-        {-0.0, "(none)"}};
+        {2, "2"},   {2.5, "2.5"},      {0.5, ".5"},   {-0.5, "-.5"},   {0.1, ".1"},
+        {60, "60"}, {0.1 + 0.2, ".3"}, {0, "(none)"}, {-0.0, "(none)"}};
     for (const auto& [seconds, text] : table) {
         SettingsDesk desk;
         desk.program.settings.AutoDelayTime = seconds;
@@ -142,21 +141,21 @@ class RandomSettings {
 
     Settings make() {
         Settings s;
-        for (auto field : {&Settings::Left, &Settings::Top, &Settings::F2Left, &Settings::F2Top,
-                           &Settings::F3Left, &Settings::F3Top, &Settings::F4Left,
-                           &Settings::F4Top, &Settings::F5Left, &Settings::F5Top,
-                           &Settings::F6Left, &Settings::F6Top, &Settings::F8Left,
-                           &Settings::F8Top, &Settings::F11Left, &Settings::F11Top,
-                           &Settings::ResetType, &Settings::AutoReset, &Settings::AutoHide,
-                           &Settings::AutoRepeat, &Settings::AutoNotes, &Settings::AllowWav,
-                           &Settings::Continuous, &Settings::Reverse, &Settings::AutoDelay,
-                           &Settings::PresetPathOnly}) {
+        for (auto field : {&Settings::Left,      &Settings::Top,           &Settings::F2Left,
+                           &Settings::F2Top,     &Settings::F3Left,        &Settings::F3Top,
+                           &Settings::F4Left,    &Settings::F4Top,         &Settings::F5Left,
+                           &Settings::F5Top,     &Settings::F6Left,        &Settings::F6Top,
+                           &Settings::F8Left,    &Settings::F8Top,         &Settings::F11Left,
+                           &Settings::F11Top,    &Settings::ResetType,     &Settings::AutoReset,
+                           &Settings::AutoHide,  &Settings::AutoRepeat,    &Settings::AutoNotes,
+                           &Settings::AllowWav,  &Settings::Continuous,    &Settings::Reverse,
+                           &Settings::AutoDelay, &Settings::PresetPathOnly}) {
             s.*field = static_cast<std::int32_t>(random_());
         }
-        for (auto field : {&Settings::Beeps, &Settings::ShowTips, &Settings::Playlist,
-                           &Settings::Lowercase, &Settings::Animated, &Settings::Display,
-                           &Settings::Extended, &Settings::TimeMethod, &Settings::ConfirmExit,
-                           &Settings::ShowBar, &Settings::ShowTray}) {
+        for (auto field :
+             {&Settings::Beeps, &Settings::ShowTips, &Settings::Playlist, &Settings::Lowercase,
+              &Settings::Animated, &Settings::Display, &Settings::Extended, &Settings::TimeMethod,
+              &Settings::ConfirmExit, &Settings::ShowBar, &Settings::ShowTray}) {
             s.*field = static_cast<std::int16_t>(random_());
         }
         s.AutoDelayTime = (1 + below(60'000)) / 1000.0;

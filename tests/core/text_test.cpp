@@ -45,8 +45,8 @@ TEST(LetterCase, DoesNotMatterWhenNamesAreCompared) {
 }
 
 TEST(Collation, IsByLetterCaseFoldedThenByBytes) {
-    const Strings order = {"",  " a", "1", "10", "2",  "A",        "a",       "a b",
-                           "a.mid", "a.mid.mid", "AB", "ab", "ss", "ß", "Z", "z", "É", "é", "ω"};
+    const Strings order = {"",   " a", "1",  "10", "2", "A", "a", "a b", "a.mid", "a.mid.mid",
+                           "AB", "ab", "ss", "ß",  "Z", "z", "É", "é",   "ω"};
     for (std::size_t i = 1; i < order.size(); ++i) {
         EXPECT_LT(collation_key(order[i - 1]), collation_key(order[i]))
             << order[i - 1] << " before " << order[i];
@@ -59,11 +59,14 @@ TEST(Collation, IsByLetterCaseFoldedThenByBytes) {
 TEST(Numbers, AreReadAsFarAsTheyGo) {
     constexpr double infinite = std::numeric_limits<double>::infinity();
     const std::vector<std::pair<std::string, double>> table = {
-        {"", 0},       {" \t12 34", 12}, {"-.5x", -.5},     {"+7", 7},          {"+-7", 0},
-        {".", 0},      {"-", 0},         {"5.", 5},         {"1.2.3", 1.2},     {"1,5", 1},
-        {"2e3", 2000}, {"2E-3", .002},   {"2e+", 2},        {"e5", 0},          {"inf", 0},
-        {"nan", 0},    {"0x10", 0},      {"&H7fff", 32767}, {"&h", 0},          {"&O777", 511},
-        {"&", 0},      {"1e-999", 0},    {"1e999", infinite}, {"-1e999", -infinite}};
+        {"", 0},       {" \t12 34", 12},    {"-.5x", -.5},
+        {"+7", 7},     {"+-7", 0},          {".", 0},
+        {"-", 0},      {"5.", 5},           {"1.2.3", 1.2},
+        {"1,5", 1},    {"2e3", 2000},       {"2E-3", .002},
+        {"2e+", 2},    {"e5", 0},           {"inf", 0},
+        {"nan", 0},    {"0x10", 0},         {"&H7fff", 32767},
+        {"&h", 0},     {"&O777", 511},      {"&", 0},
+        {"1e-999", 0}, {"1e999", infinite}, {"-1e999", -infinite}};
     for (const auto& [text, value] : table) EXPECT_EQ(leading_number(text), value) << text;
     EXPECT_EQ(leading_number("0." + std::string(400, '0') + "1"), 0);
     EXPECT_EQ(leading_number(std::string(400, '9') + ".5"), infinite);
@@ -76,10 +79,17 @@ TEST(Numbers, RoundHalvesToTheEvenNeighbour) {
 }
 
 TEST(Numbers, AreWrittenShortly) {
-    const std::vector<std::pair<double, std::string>> table = {
-        {0, "0"},   {-0.0, "0"}, {.5, ".5"},        {-.5, "-.5"},
-        {10, "10"}, {1.5, "1.5"}, {100000, "100000"}, {1e20, "1e+20"},
-        {.00025, ".00025"}, {2e-9, "2e-09"}, {1.0 / 3, ".333333333333333"}};
+    const std::vector<std::pair<double, std::string>> table = {{0, "0"},
+                                                               {-0.0, "0"},
+                                                               {.5, ".5"},
+                                                               {-.5, "-.5"},
+                                                               {10, "10"},
+                                                               {1.5, "1.5"},
+                                                               {100000, "100000"},
+                                                               {1e20, "1e+20"},
+                                                               {.00025, ".00025"},
+                                                               {2e-9, "2e-09"},
+                                                               {1.0 / 3, ".333333333333333"}};
     for (const auto& [value, text] : table) {
         EXPECT_EQ(decimal(value), text);
         EXPECT_NEAR(leading_number(text), value, 1e-14) << text;
@@ -121,8 +131,9 @@ TEST(TextLines, EndInAnyOfThreeWays) {
     EXPECT_EQ(lines("\xEF\xBB\xBF"
                     "a\r\n\xEF\xBB\xBF"
                     "b"),
-              (Strings{"a", "\xEF\xBB\xBF"
-                            "b"}))
+              (Strings{"a",
+                       "\xEF\xBB\xBF"
+                       "b"}))
         << "a mark counts at the very beginning only";
 }
 

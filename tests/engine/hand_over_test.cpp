@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 namespace zephyne::test {
@@ -139,6 +140,55 @@ TEST_P(HandedOver, WhatIsNoSongOrIsNotThereIsReported) {
     EXPECT_EQ(world.form.title(), "Zephyne - Playing a.mid");
     world.run_for(180'000);
     EXPECT_EQ(world.form.title(), "Zephyne - Playing b.mid") << "the order goes on";
+}
+
+TEST_P(HandedOver, WhatIsNoSongOfAnotherFolderStillBringsItsFolder) {
+    world.files.add_file(in_other("notes.txt"));
+    start(PlayMode::Alpha);
+    hand_over(in_other("notes.txt"));
+    EXPECT_EQ(world.happened(), Log{kUnknown});
+    EXPECT_EQ(World::names(world.form.File1), (Log{"x.mid", "y.mid"}));
+    world.run_for(180'000);
+    EXPECT_EQ(world.form.title(), "Zephyne - Playing x.mid");
+}
+
+TEST_P(HandedOver, WhileAMessageIsOpenASongPlaysAndStays) {
+    const std::string folder = with_separator(world.folder, GetParam());
+    const auto broken_in_playlist = [&](World& w) {
+        w.open_playlist({"a.mid|" + folder, "b.mid|" + folder});
+        w.midi.broken = {"a.mid"};
+        w.click("a.mid");
+    };
+    const auto deleted_while_it_played = [&](World& w) {
+        w.open_folder();
+        w.click("a.mid");
+        w.files.remove(w.path("a.mid"));
+        w.midi.finish();
+        w.pump.pump();
+    };
+    const auto deleted_before_stop = [&](World& w) {
+        w.open_folder();
+        w.click("a.mid");
+        w.files.remove(w.path("a.mid"));
+        w.form.MMControl1.press(TransportKey::stop);
+    };
+    for (const std::function<void(World&)>& act :
+         {std::function<void(World&)>(broken_in_playlist),
+          std::function<void(World&)>(deleted_while_it_played),
+          std::function<void(World&)>(deleted_before_stop)}) {
+        World fresh({"a.mid", "b.mid"}, GetParam());
+        fresh.settings().AutoReset = 0;
+        fresh.messages.while_open = [&] {
+            fresh.hand_over(fresh.path("b.mid"));
+            fresh.run_for(1500);
+        };
+        act(fresh);
+        EXPECT_EQ(fresh.open_song(), "b.mid");
+        EXPECT_EQ(fresh.device.Mode(), DeviceMode::playing);
+        fresh.expect_title_tells_the_truth();
+        fresh.expect_window_unlocked();
+        fresh.expect_flags_at_rest();
+    }
 }
 
 TEST_P(HandedOver, AFolderThatCannotBeShownIsReportedAndTheSongGoesOn) {

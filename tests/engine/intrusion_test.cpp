@@ -1,6 +1,7 @@
 // Whatever arrives while a procedure of the player lets events run: a click, a key, a song handed
 // over, the end of a song. Each procedure is run once to count its pumps, and then once more for
-// each pump and each intruder, which arrives in just that pump. Afterwards the player must be whole.
+// each pump and each intruder, which arrives in just that pump. Afterwards the player must be
+// whole.
 #include "tests/support/world.h"
 
 #include <gtest/gtest.h>
@@ -67,8 +68,8 @@ void start_queue(World& world) {
 
 void open_playlist(World& world) {
     const std::string folder = with_separator(world.folder, world.files.path_style());
-    world.open_playlist({"a.mid|" + folder, "b.mid|" + folder, "c.MID|" + folder,
-                         "d.wav|" + folder});
+    world.open_playlist(
+        {"a.mid|" + folder, "b.mid|" + folder, "c.MID|" + folder, "d.wav|" + folder});
 }
 
 std::function<void(World&)> start_in(std::int32_t mode) {

@@ -32,12 +32,18 @@ class Device : public testing::Test {
 
 TEST_F(Device, TheLastFourCharactersOfANameSayWhatPlaysIt) {
     const std::vector<std::pair<std::string, std::optional<DeviceType>>> table = {
-        {"a.mid", DeviceType::Sequencer},   {"A.MID", DeviceType::Sequencer},
-        {"a.Rmi", DeviceType::Sequencer},   {"a.WAV", DeviceType::WaveAudio},
-        {"a.avi", DeviceType::AVIVideo},    {".mid", DeviceType::Sequencer},
-        {"song.midi", std::nullopt},        {"x.mp3", std::nullopt},
-        {"amid", std::nullopt},             {"mid", std::nullopt},
-        {"", std::nullopt},                 {"/music.mid/readme", std::nullopt},
+        {"a.mid", DeviceType::Sequencer},
+        {"A.MID", DeviceType::Sequencer},
+        {"a.Rmi", DeviceType::Sequencer},
+        {"a.WAV", DeviceType::WaveAudio},
+        {"a.avi", DeviceType::AVIVideo},
+        {".mid", DeviceType::Sequencer},
+        {"song.midi", std::nullopt},
+        {"x.mp3", std::nullopt},
+        {"amid", std::nullopt},
+        {"mid", std::nullopt},
+        {"", std::nullopt},
+        {"/music.mid/readme", std::nullopt},
     };
     for (const auto& [name, type] : table) EXPECT_EQ(device_type_of(name), type) << name;
 }
@@ -128,15 +134,6 @@ TEST_F(Device, SeekingGoesToTheNearestMillisecond) {
     EXPECT_TRUE(world.form.MMControl1.transport_enabled());
 }
 
-TEST_F(Device, SeekingAStoppedFileDoesNothing) {
-    play("a.mid");
-    device.command(DeviceCommand::Stop);
-    device.SeekPercent(50, world.pump);
-    world.pump.pump();
-    EXPECT_EQ(world.happened(), Log{"Done 4"});
-    EXPECT_EQ(device.Position(), 0);
-}
-
 TEST_F(Device, APlaceToStartFromIsUsedOnceOnly) {
     device.open_to_play(world.path("a.mid"));
     device.start(70'000, world.pump);
@@ -145,19 +142,6 @@ TEST_F(Device, APlaceToStartFromIsUsedOnceOnly) {
     device.start(0, world.pump);
     EXPECT_EQ(world.happened(), (Log{"open a.mid", "play a.mid from 70000", "close a.mid",
                                      "open b.mid", "play b.mid"}));
-}
-
-TEST_F(Device, ReloadingLeavesAMidiSongPausedAndAnyOtherStopped) {
-    play("a.mid");
-    device.StopAndClose();
-    device.ReloadPaused(world.path("b.mid"));
-    EXPECT_EQ(device.Mode(), DeviceMode::paused);
-    device.StopAndClose();
-    device.Type = DeviceType::WaveAudio;
-    play("tune.wav");
-    device.ReloadPaused(world.path("tune.wav"));
-    EXPECT_EQ(device.Mode(), DeviceMode::stopped);
-    EXPECT_EQ(world.happened(), (Log{"wave: close tune.wav", "wave: open tune.wav"}));
 }
 
 TEST_F(Device, TheKeysAreDeadWhileItIsSwitchingSongs) {
@@ -174,14 +158,6 @@ TEST_F(Device, TheKeysAreDeadWhileItIsSwitchingSongs) {
 TEST_F(Device, FindsAFileWhoseNameDiffersInCase) {
     device.open_to_play(world.path("A.Mid"));
     EXPECT_EQ(world.happened(), Log{"open a.mid"});
-}
-
-TEST_F(Device, AFileThatCannotBeOpenedLeavesItClosed) {
-    world.midi.broken = {"b.mid"};
-    device.open_to_play(world.path("b.mid"));
-    EXPECT_EQ(device.start(0, world.pump), PlayResult::does_not_play);
-    EXPECT_EQ(device.Mode(), DeviceMode::not_open);
-    EXPECT_EQ(device.Length(), 0);
 }
 
 TEST_F(Device, AfterItsEndNoCommandHasAnEffect) {

@@ -34,8 +34,8 @@ class Pause : public testing::Test {
 
 TEST_F(Pause, LastsAsLongAsIsSetButAMinuteAtMost) {
     const std::vector<std::pair<double, Milliseconds>> table = {
-        {2, 2000}, {2.5, 2500}, {.05, 50}, {60, 60'000}, {90, 60'000}, {1e300, 60'000},
-        {0, 0},    {-3, 0},     {-1e300, 0}};
+        {2, 2000},       {2.5, 2500}, {.05, 50}, {60, 60'000}, {90, 60'000},
+        {1e300, 60'000}, {0, 0},      {-3, 0},   {-1e300, 0}};
     for (const auto& [seconds, duration] : table) {
         World fresh{"A.mid", "B.mid"};
         fresh.settings().AutoDelay = 1;
@@ -51,9 +51,10 @@ TEST_F(Pause, LastsAsLongAsIsSetButAMinuteAtMost) {
 }
 
 TEST_F(Pause, LocksWhateverCouldStartASongAndSaysHowLong) {
-    const std::vector<std::pair<double, std::string>> titles = {
-        {5, "Delaying 5 Second(s)..."}, {90, "Delaying 90 Second(s)..."},
-        {2.5, "Delaying 2.5 Second(s)..."}, {.5, "Delaying .5 Second(s)..."}};
+    const std::vector<std::pair<double, std::string>> titles = {{5, "Delaying 5 Second(s)..."},
+                                                                {90, "Delaying 90 Second(s)..."},
+                                                                {2.5, "Delaying 2.5 Second(s)..."},
+                                                                {.5, "Delaying .5 Second(s)..."}};
     for (const auto& [seconds, title] : titles) {
         acted_ = false;
         world.settings().AutoDelayTime = seconds;

@@ -26,16 +26,36 @@ const std::vector<Order> kOrders = {
     {"AlphaContinuous", PlayMode::Alpha, 1, 0, {0}, {"A", "B", "C", "A", "B"}, {"Continuous"}},
     {"AlphaReverseContinuous", PlayMode::Alpha, 1, 1, {0}, {"C", "B", "A", "C"}, {"Continuous"}},
     {"Random", PlayMode::Random, 0, 0, {.34, .5, .9}, {"B", "C", "A", "B"}, {"2", "1", "0", "2"}},
-    {"RandomTakesNoNoticeOfReverse", PlayMode::Random, 0, 1, {0}, {"A", "B", "C", "A"},
+    {"RandomTakesNoNoticeOfReverse",
+     PlayMode::Random,
+     0,
+     1,
+     {0},
+     {"A", "B", "C", "A"},
      {"2", "1", "0", "2"}},
-    {"RandomContinuous", PlayMode::Random, 1, 0, {.4, .4, .99}, {"B", "B", "C", "B"},
+    {"RandomContinuous",
+     PlayMode::Random,
+     1,
+     0,
+     {.4, .4, .99},
+     {"B", "B", "C", "B"},
      {"Continuous"}},
-    {"RandomUpToTheTop", PlayMode::Random, 0, 0, {0.9999999999999999}, {"C", "B", "A", "C"},
+    {"RandomUpToTheTop",
+     PlayMode::Random,
+     0,
+     0,
+     {0.9999999999999999},
+     {"C", "B", "A", "C"},
      {"2", "1", "0", "2"}},
     {"Preview", PlayMode::Preview, 0, 0, {0}, {"A", "B", "C", "A"}, {"2", "1", "0", "2"}},
     {"PreviewRunsForwards", PlayMode::Preview, 0, 1, {0}, {"A", "B", "C", "A"}, {"2"}},
     {"PreviewContinuous", PlayMode::Preview, 1, 0, {0}, {"A", "B", "C", "A"}, {"Continuous"}},
-    {"PreviewContinuousRunsForwards", PlayMode::Preview, 1, 1, {0}, {"A", "B", "C"},
+    {"PreviewContinuousRunsForwards",
+     PlayMode::Preview,
+     1,
+     1,
+     {0},
+     {"A", "B", "C"},
      {"Continuous"}},
 };
 
@@ -208,21 +228,6 @@ TEST(PlayOrder, EntriesOfOneNameInTwoFoldersBothPlay) {
     world.form.Command9.click();
     EXPECT_EQ(world.program.CurrentSongPath, "/music/Same.mid");
     EXPECT_EQ(world.program.CurrentSongName, "Same.mid");
-}
-
-TEST(PlayOrder, ASongThatVanishedIsReportedAndTheListStaysUsable) {
-    World world{"A.mid", "B.mid"};
-    world.start(PlayMode::Alpha);
-    world.files.remove(world.path("B.mid"));
-    world.happened();
-    world.run_for(180'500);
-    EXPECT_EQ(world.happened().back(),
-              "message: Error - MCI Device may be in use or file may be corrupt or have been "
-              "deleted. [Error]");
-    EXPECT_EQ(world.form.title(), "Zephyne");
-    world.expect_window_unlocked();
-    world.click("A.mid");
-    EXPECT_EQ(world.form.title(), "Zephyne - Playing A.mid");
 }
 
 }  // namespace

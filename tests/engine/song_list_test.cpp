@@ -43,7 +43,8 @@ INSTANTIATE_TEST_SUITE_P(Of, SongLists, testing::Values(PathStyle::posix, PathSt
                          });
 
 TEST_P(SongLists, ShowThePlayableFilesInOrderWithoutRegardToCase) {
-    for (const char* name : {"INTRO.WAV", "film.avi", "SONG.MID", "readme.txt", "old.midi", "b.RMI"})
+    for (const char* name :
+         {"INTRO.WAV", "film.avi", "SONG.MID", "readme.txt", "old.midi", "b.RMI"})
         add(name);
     world.files.add_file(path("hidden.mid"), "", FileKind::ordinary, Visibility::hidden);
     world.files.add_file(path("pipe.mid"), "", FileKind::pipe);
@@ -179,8 +180,8 @@ TEST_P(SongLists, ADriveThatCannotBeReadGivesWayToTheOneOfTheStart) {
 
 TEST_P(SongLists, APlaylistPlaysEachSongFromItsOwnFolder) {
     const std::string folder = with_separator(path("live"), GetParam());
-    world.open_playlist({"Encore.mid|" + path("live"), "Aria.mid|" + folder + "..",
-                         "Missing.mid|" + folder});
+    world.open_playlist(
+        {"Encore.mid|" + path("live"), "Aria.mid|" + folder + "..", "Missing.mid|" + folder});
     EXPECT_EQ(listed(), (Log{"Aria.mid", "Encore.mid", "Missing.mid"}));
     world.click("Encore.mid");
     EXPECT_EQ(world.program.CurrentSongPath, folder + "Encore.mid");
@@ -209,9 +210,8 @@ class Find : public testing::Test {
 
 TEST_F(Find, TypingSelectsTheFirstSongThatBeginsSoWithoutPlayingIt) {
     const std::vector<std::pair<std::string, std::string>> table = {
-        {"b", "Bach.mid"},         {"bal", "BALLAD.MID"},   {"BAR", "barcarole.mid"},
-        {"étu", "Étude.mid"},      {"ballad.mid", "BALLAD.MID"},
-        {"BARCAROLE.MID", "barcarole.mid"},
+        {"b", "Bach.mid"},    {"bal", "BALLAD.MID"},        {"BAR", "barcarole.mid"},
+        {"étu", "Étude.mid"}, {"ballad.mid", "BALLAD.MID"}, {"BARCAROLE.MID", "barcarole.mid"},
     };
     for (const auto& [text, song] : table) {
         type(text);

@@ -38,23 +38,21 @@ struct Layout {
     State written;
 };
 
-const State kWide = {
-    {"Drive1.width", "6030"}, {"Dir1.width", "6030"},   {"File1.width", "6030"},
-    {"text2.width", "5535"},  {"Text1.visible", "yes"}, {"Label7.visible", "yes"},
-    {"Form1.width", "9000"}};
+const State kWide = {{"Drive1.width", "6030"}, {"Dir1.width", "6030"},   {"File1.width", "6030"},
+                     {"text2.width", "5535"},  {"Text1.visible", "yes"}, {"Label7.visible", "yes"},
+                     {"Form1.width", "9000"}};
 
-const State kNarrow = {
-    {"Drive1.width", "3510"}, {"Dir1.width", "3510"},  {"File1.width", "3510"},
-    {"text2.width", "3015"},  {"Text1.visible", "no"}, {"Label7.visible", "no"},
-    {"Form1.width", "6500"}};
+const State kNarrow = {{"Drive1.width", "3510"}, {"Dir1.width", "3510"},  {"File1.width", "3510"},
+                       {"text2.width", "3015"},  {"Text1.visible", "no"}, {"Label7.visible", "no"},
+                       {"Form1.width", "6500"}};
 
 const State kFolder = {
-    {"Command13.visible", "no"}, {"Command20.visible", "no"},  {"Image5.visible", "no"},
-    {"Label14.visible", "no"},   {"Label8.top", "1760"},       {"text2.top", "1760"},
-    {"File1.top", "2040"},       {"File1.height", "2205"},     {"Dir1.visible", "yes"},
-    {"Drive1.visible", "yes"},   {"Frame2.visible", "yes"},    {"Line4.visible", "yes"},
+    {"Command13.visible", "no"},   {"Command20.visible", "no"}, {"Image5.visible", "no"},
+    {"Label14.visible", "no"},     {"Label8.top", "1760"},      {"text2.top", "1760"},
+    {"File1.top", "2040"},         {"File1.height", "2205"},    {"Dir1.visible", "yes"},
+    {"Drive1.visible", "yes"},     {"Frame2.visible", "yes"},   {"Line4.visible", "yes"},
     {"Frame2.caption", "Presets"}, {"Command4.enabled", "yes"}, {"Command5.enabled", "yes"},
-    {"Command18.enabled", "yes"}, {"Command24.enabled", "yes"}};
+    {"Command18.enabled", "yes"},  {"Command24.enabled", "yes"}};
 
 const State kPlaylist = {
     {"Command13.visible", "yes"}, {"Command20.visible", "yes"}, {"Image5.visible", "yes"},
@@ -65,17 +63,17 @@ const State kPlaylist = {
     {"Command18.enabled", "no"},  {"Command24.enabled", "no"}};
 
 const State kQueue = {
-    {"Form1.width", "2740"},     {"Form1.height", "4140"},    {"Command19.visible", "yes"},
-    {"Label3.visible", "no"},    {"Label4.visible", "no"},    {"Line1.visible", "no"},
-    {"Line3.visible", "no"},     {"Shape2.visible", "no"},    {"Label5.visible", "no"},
-    {"Label6.visible", "no"},    {"Label12.visible", "no"},   {"Label13.visible", "no"},
-    {"Label1.visible", "no"},    {"Label2.visible", "no"},    {"Label9.visible", "no"},
-    {"Label10.visible", "no"},   {"Command4.left", "240"},    {"Command4.top", "3090"},
-    {"Command5.left", "240"},    {"Command5.top", "3400"},    {"Command19.left", "1670"},
-    {"Command19.top", "3090"},   {"Command2.left", "1670"},   {"Command2.top", "3400"},
-    {"Command2.height", "285"},  {"Command2.width", "660"},   {"Command22.visible", "yes"},
-    {"Command22.left", "980"},   {"Command22.top", "3090"},   {"Command23.visible", "yes"},
-    {"Command23.left", "980"},   {"Command23.top", "3400"}};
+    {"Form1.width", "2740"},    {"Form1.height", "4140"},  {"Command19.visible", "yes"},
+    {"Label3.visible", "no"},   {"Label4.visible", "no"},  {"Line1.visible", "no"},
+    {"Line3.visible", "no"},    {"Shape2.visible", "no"},  {"Label5.visible", "no"},
+    {"Label6.visible", "no"},   {"Label12.visible", "no"}, {"Label13.visible", "no"},
+    {"Label1.visible", "no"},   {"Label2.visible", "no"},  {"Label9.visible", "no"},
+    {"Label10.visible", "no"},  {"Command4.left", "240"},  {"Command4.top", "3090"},
+    {"Command5.left", "240"},   {"Command5.top", "3400"},  {"Command19.left", "1670"},
+    {"Command19.top", "3090"},  {"Command2.left", "1670"}, {"Command2.top", "3400"},
+    {"Command2.height", "285"}, {"Command2.width", "660"}, {"Command22.visible", "yes"},
+    {"Command22.left", "980"},  {"Command22.top", "3090"}, {"Command23.visible", "yes"},
+    {"Command23.left", "980"},  {"Command23.top", "3400"}};
 
 TEST(Layout, EachWritesItsRowsAndNothingElse) {
     const auto narrow = [](MainWindowLayout& l) { l.narrow(); };
@@ -84,14 +82,13 @@ TEST(Layout, EachWritesItsRowsAndNothingElse) {
     const auto playlist = [](MainWindowLayout& l) { l.playlist_based(); };
     const auto compact = [](MainWindowLayout& l) { l.compact(); };
     ProgramWorld world;
-    for (const Layout& step :
-         std::vector<Layout>{{"wide, as designed", wide, kWide},
-                             {"folder, as designed", folder, kFolder},
-                             {"narrow", narrow, kNarrow},
-                             {"playlist", playlist, kPlaylist},
-                             {"wide with a playlist", wide, kWide},
-                             {"folder after playlist", folder, kFolder},
-                             {"queue", compact, kQueue}}) {
+    for (const Layout& step : std::vector<Layout>{{"wide, as designed", wide, kWide},
+                                                  {"folder, as designed", folder, kFolder},
+                                                  {"narrow", narrow, kNarrow},
+                                                  {"playlist", playlist, kPlaylist},
+                                                  {"wide with a playlist", wide, kWide},
+                                                  {"folder after playlist", folder, kFolder},
+                                                  {"queue", compact, kQueue}}) {
         State expected = state_of(world.form);
         const State design = expected;
         for (const auto& [property, value] : step.written) {
@@ -182,9 +179,9 @@ TEST(Layout, AllLedTextsTakeTheColour) {
     for (const auto& [display, colour] : colours) {
         world.settings().Display = display;
         world.layout.led_colour();
-        for (const Control* control : std::vector<Control*>{
-                 &f.Text1, &f.Label5, &f.Label12, &f.Label1, &f.Label3, &f.Label9, &f.Label6,
-                 &f.Label13, &f.Label2, &f.Label4, &f.Label10}) {
+        for (const Control* control :
+             std::vector<Control*>{&f.Text1, &f.Label5, &f.Label12, &f.Label1, &f.Label3, &f.Label9,
+                                   &f.Label6, &f.Label13, &f.Label2, &f.Label4, &f.Label10}) {
             EXPECT_EQ(control->colour(), colour) << control->name() << " " << display;
         }
         EXPECT_EQ(f.Label8.colour(), 0U);

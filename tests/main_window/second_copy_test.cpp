@@ -99,8 +99,7 @@ TEST(QueuePlayer, DoesNotStartWithASongThatCannotBeRead) {
         ProgramWorld world({"a.mid", "secret.mid"});
         world.files.deny("/music/secret.mid");
         EXPECT_EQ(world.load("Mode=Manual\r\n", row.line), Started::ended);
-        EXPECT_EQ(world.log,
-                  Log{"message: Error on Command Line - " + row.why + ". [Error!]"});
+        EXPECT_EQ(world.log, Log{"message: Error on Command Line - " + row.why + ". [Error!]"});
         EXPECT_EQ(world.files.contents(world.settings_path()), "Mode=Manual\r\n");
         EXPECT_EQ(world.window(), "hidden");
         EXPECT_EQ(world.settings().Mode, PlayMode::Manual) << "it never was a queue";

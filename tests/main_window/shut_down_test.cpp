@@ -31,8 +31,8 @@ struct Running : ProgramWorld {
     }
     int timers_on() const {
         int on = 0;
-        for (const RepeatingTimer* timer : {&form.Timer1, &form.Timer2, &form.Timer3, &form.Timer4,
-                                            &form.Timer5, &form.Timer6}) {
+        for (const RepeatingTimer* timer :
+             {&form.Timer1, &form.Timer2, &form.Timer3, &form.Timer4, &form.Timer5, &form.Timer6}) {
             on += timer->enabled() ? 1 : 0;
         }
         return on;
@@ -82,10 +82,9 @@ TEST(ShutDown, TheEndOfTheSessionOverridesAnOpenQuestion) {
             EXPECT_TRUE(world.form.request_unload(CloseReason::session_end));
         };
         world.form.Command2.click();
-        EXPECT_EQ(world.happened(),
-                  (Log{kQuestion, "notes closed", "close a.mid",
-                       "tray icon removed, 3 timers, settings written", "help closed, 0 timers",
-                       "end", "window hidden"}))
+        EXPECT_EQ(world.happened(), (Log{kQuestion, "notes closed", "close a.mid",
+                                         "tray icon removed, 3 timers, settings written",
+                                         "help closed, 0 timers", "end", "window hidden"}))
             << "and all of it once";
     }
 }
@@ -93,20 +92,18 @@ TEST(ShutDown, TheEndOfTheSessionOverridesAnOpenQuestion) {
 TEST(ShutDown, LeavesTheTrayAloneWithoutAnIcon) {
     Running world("ShowTray=0\r\nConfirmExit=0\r\n");
     world.form.Command2.click();
-    EXPECT_EQ(world.happened(),
-              (Log{"notes closed", "close a.mid", "help closed, 0 timers", "end",
-                   "window hidden"}));
+    EXPECT_EQ(world.happened(), (Log{"notes closed", "close a.mid", "help closed, 0 timers", "end",
+                                     "window hidden"}));
 }
 
 TEST(ShutDown, GoesOnWhenTheSettingsCannotBeWritten) {
     Running world("ConfirmExit=0\r\n");
     world.files.deny_writing(world.settings_path());
     world.form.Command2.click();
-    EXPECT_EQ(world.happened(),
-              (Log{"notes closed", "close a.mid",
-                   "message: Error writing ZEPHYNE.INI file! [Error]",
-                   "tray icon removed, 3 timers, settings not written", "help closed, 0 timers",
-                   "end", "window hidden"}));
+    EXPECT_EQ(world.happened(), (Log{"notes closed", "close a.mid",
+                                     "message: Error writing ZEPHYNE.INI file! [Error]",
+                                     "tray icon removed, 3 timers, settings not written",
+                                     "help closed, 0 timers", "end", "window hidden"}));
 }
 
 TEST(ShutDown, WorksDuringThePauseBetweenSongs) {

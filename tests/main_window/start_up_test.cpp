@@ -33,14 +33,13 @@ TEST(StartUp, OnlyAFolderInRandomAlphaOrPreviewModePlaysByItself) {
         Log played;
         std::size_t listed;
     };
-    for (const Row& row :
-         std::vector<Row>{{"Mode=Random", {"a.mid"}, 2},
-                          {"Mode=Alpha", {"a.mid"}, 2},
-                          {"Mode=Alpha\r\nReverse=1", {"b.mid"}, 2},
-                          {"Mode=Preview", {"a.mid"}, 2},
-                          {"Mode=Manual", {}, 2},
-                          {"Mode=Random\r\nPlaylist=1", {}, 0},
-                          {"Mode=Manual\r\nPlaylist=1", {}, 0}}) {
+    for (const Row& row : std::vector<Row>{{"Mode=Random", {"a.mid"}, 2},
+                                           {"Mode=Alpha", {"a.mid"}, 2},
+                                           {"Mode=Alpha\r\nReverse=1", {"b.mid"}, 2},
+                                           {"Mode=Preview", {"a.mid"}, 2},
+                                           {"Mode=Manual", {}, 2},
+                                           {"Mode=Random\r\nPlaylist=1", {}, 0},
+                                           {"Mode=Manual\r\nPlaylist=1", {}, 0}}) {
         ProgramWorld world({"a.mid", "b.mid"});
         world.load(row.settings);
         EXPECT_EQ(world.played(), row.played) << row.settings;
@@ -68,16 +67,16 @@ TEST(StartUp, TheWindowIsNeverLostWhateverIsHidden) {
         bool tray_host;
         std::string window;
     };
-    for (const Row& row : std::vector<Row>{
-             {"AutoHide=0\r\nShowBar=0\r\nShowTray=1", true, "shown"},
-             {"AutoHide=0\r\nShowBar=0\r\nShowTray=1", false, "shown with button"},
-             {"AutoHide=0\r\nShowBar=0\r\nShowTray=0", true, "shown with button"},
-             {"AutoHide=0\r\nShowBar=1\r\nShowTray=1", true, "shown with button"},
-             {"AutoHide=1\r\nShowBar=0\r\nShowTray=1", true, "hidden"},
-             {"AutoHide=1\r\nShowBar=0\r\nShowTray=1", false, "minimised with button"},
-             {"AutoHide=1\r\nShowBar=0\r\nShowTray=0", true, "minimised with button"},
-             {"AutoHide=1\r\nShowBar=1\r\nShowTray=1", true, "shown with button"},
-             {"AutoHide=1\r\nShowBar=1\r\nShowTray=0", false, "shown with button"}}) {
+    for (const Row& row :
+         std::vector<Row>{{"AutoHide=0\r\nShowBar=0\r\nShowTray=1", true, "shown"},
+                          {"AutoHide=0\r\nShowBar=0\r\nShowTray=1", false, "shown with button"},
+                          {"AutoHide=0\r\nShowBar=0\r\nShowTray=0", true, "shown with button"},
+                          {"AutoHide=0\r\nShowBar=1\r\nShowTray=1", true, "shown with button"},
+                          {"AutoHide=1\r\nShowBar=0\r\nShowTray=1", true, "hidden"},
+                          {"AutoHide=1\r\nShowBar=0\r\nShowTray=1", false, "minimised with button"},
+                          {"AutoHide=1\r\nShowBar=0\r\nShowTray=0", true, "minimised with button"},
+                          {"AutoHide=1\r\nShowBar=1\r\nShowTray=1", true, "shown with button"},
+                          {"AutoHide=1\r\nShowBar=1\r\nShowTray=0", false, "shown with button"}}) {
         ProgramWorld world;
         world.has_tray_host = row.tray_host;
         world.load(row.settings);

@@ -248,7 +248,12 @@ TEST_F(RenderingTest, NothingThatTheUserDoesClicks) {
         go_to(200 + 10 * round);
         wish(State::playing);
         render(50);
-        open({Track().exclusive(kGmOn).program(0, kOcarina).note_on(0, 74, 100).end_at(60'000)});
+        open({held_note(), Track()
+                               .at(static_cast<std::uint32_t>(100 + round))
+                               .exclusive(kGmOn)
+                               .program(0, kOcarina)
+                               .note_on(0, 74, 100)
+                               .end_at(60'000)});
         render(200);
         wish(State::stopped);
         render(30);

@@ -64,17 +64,17 @@ TEST(MessageBox, ANoticeHasOnlyOk) {
 TEST(MessageBox, AQuestionHasYesAndNoAndEnterMeansNo) {
     Desk desk;
     for (const std::int16_t flags : {1, 2, -1}) {
-        EXPECT_EQ(desk.show("Really?", flags,
-                            [&](dlgbox& box) {
-                                EXPECT_EQ(visible_keys(box),
-                                          (std::vector<std::string>{"Yes", "No"}));
-                                EXPECT_EQ(box.default_button(), &box.Command3);
-                                EXPECT_TRUE(box.Command3.focused());
-                                box.Command1.click();  // hidden: no answer
-                                EXPECT_TRUE(box.visible());
-                                box.Command2.click();
-                            }),
-                  Answer::yes);
+        EXPECT_EQ(
+            desk.show("Really?", flags,
+                      [&](dlgbox& box) {
+                          EXPECT_EQ(visible_keys(box), (std::vector<std::string>{"Yes", "No"}));
+                          EXPECT_EQ(box.default_button(), &box.Command3);
+                          EXPECT_TRUE(box.Command3.focused());
+                          box.Command1.click();  // hidden: no answer
+                          EXPECT_TRUE(box.visible());
+                          box.Command2.click();
+                      }),
+            Answer::yes);
         EXPECT_EQ(desk.show("Really?", flags, [](dlgbox& box) { box.Command3.click(); }),
                   Answer::no);
     }

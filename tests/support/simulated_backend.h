@@ -1,14 +1,14 @@
 // A media back end that plays in virtual time and writes down what it is told.
 #pragma once
 
+#include "core/scheduler.h"
+#include "engine/media_backend.h"
+#include "tests/support/virtual_time.h"
+
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
-
-#include "core/scheduler.h"
-#include "engine/media_backend.h"
-#include "tests/support/virtual_time.h"
 
 namespace zephyne::test {
 

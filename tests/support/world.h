@@ -2,11 +2,6 @@
 // log of what happened, in order.
 #pragma once
 
-#include <initializer_list>
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "core/program.h"
 #include "core/sheets/form1.h"
 #include "core/sheets/tray_form.h"
@@ -17,6 +12,11 @@
 #include "tests/support/memory_file_system.h"
 #include "tests/support/simulated_backend.h"
 #include "tests/support/virtual_time.h"
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace zephyne::test {
 

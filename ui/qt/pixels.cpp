@@ -26,6 +26,14 @@ QRect Pixels::containing(const QRect& device) const {
     return {left, top, right - left, bottom - top};
 }
 
+QRect Pixels::within(const QRect& device) const {
+    const int left = static_cast<int>(std::ceil(device.x() / ratio));
+    const int top = static_cast<int>(std::ceil(device.y() / ratio));
+    const int right = static_cast<int>(std::floor((device.x() + device.width()) / ratio));
+    const int bottom = static_cast<int>(std::floor((device.y() + device.height()) / ratio));
+    return {left, top, right - left, bottom - top};
+}
+
 QRect Pixels::device(const QRect& logical) const {
     const int left = round_half_up(logical.x() * ratio);
     const int top = round_half_up(logical.y() * ratio);

@@ -29,6 +29,9 @@ struct Pixels {
     // The smallest logical rectangle that holds these device pixels.
     QRect containing(const QRect& device) const;
 
+    // The largest one that lies within them.
+    QRect within(const QRect& device) const;
+
     // The device pixels of a logical rectangle, with the rounding that Qt clips by; and the
     // device pixel that holds a logical point.
     QRect device(const QRect& logical) const;

@@ -92,7 +92,7 @@ void RowsView::set_margins() {
     const QRect rows = paint::rows_area(
         pixels_.scale(), box_, kind_,
         thumb_.needed() ? paint::ScrollBar::Shown : paint::ScrollBar::Hidden);
-    const QRect area = pixels_.containing(rows).translated(-origin_in_window(*this));
+    const QRect area = pixels_.within(rows).translated(-origin_in_window(*this));
     setViewportMargins(area.left(), area.top(), width() - area.right() - 1,
                        height() - area.bottom() - 1);
 }

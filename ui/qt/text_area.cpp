@@ -68,7 +68,7 @@ void TextArea::set_margins() {
     thumb_.lay_out(pixels_, box_);
     QRect inside = paint::text_box_interior(pixels_.scale(), box_, paint::TextLines::Many);
     if (thumb_.needed()) inside.setRight(thumb_.track().left() - 1);
-    const QRect area = pixels_.containing(inside).translated(-origin_in_window(*this));
+    const QRect area = pixels_.within(inside).translated(-origin_in_window(*this));
     // No slice of a line at the end.
     const int lines = std::max(1, static_cast<int>(area.height() / pitch()));
     const int whole = std::min(area.height(), static_cast<int>(std::ceil(lines * pitch())));
