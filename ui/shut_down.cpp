@@ -33,7 +33,6 @@ void ShutDown::Form_Unload() {
 
     // Whatever handlers are still on the stack find a program that has ended.
     stage_.program.Ending = true;
-    stage_.program.DelayDone = true;
     stage_.device.shut_down();
     if (end_program) end_program();
 }

@@ -171,6 +171,9 @@ void StartUp::start_normally() {
     f.Timer5.set_interval(kPollInterval);
     f.Timer5.set_enabled(true);
     engine_.songs.refreshfiles();
+    if (settings.Mode == PlayMode::Manual) {
+        f.Label2.set_caption(std::to_string(f.File1.count()));
+    }
     if (settings.Playlist == 1 || settings.Mode >= PlayMode::Manual) return;
     const FlagGuard switching(program.SwitchingSong);
     engine_.order.RefillAndPlayNext();

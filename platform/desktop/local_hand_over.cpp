@@ -55,7 +55,7 @@ std::optional<sockaddr_un> address_of(const std::string& path) {
 }
 
 Descriptor datagram_socket() {
-    return Descriptor(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0));
+    return Descriptor(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
 }
 
 // The user who sent a datagram, as the kernel vouches for it.

@@ -73,7 +73,8 @@ void AudioKeeper::run() {
         Opened opened = open_first_that_will_do();
         settled_ = true;
         const Verdict verdict = watch_over(*opened.gate);
-        if (verdict == Verdict::hangs && opened.gate->count() == 0) useless_[opened.number] = true;
+        if (verdict == Verdict::did_not_start) useless_[opened.number] = true;
+        if (verdict == Verdict::idle) useless_.assign(useless_.size(), false);  // another chance
         close(std::move(opened));
         if (verdict == Verdict::quit) return;
     }
@@ -103,17 +104,19 @@ AudioKeeper::Opened AudioKeeper::try_to_open(const OpenDevice& open) const {
 
 AudioKeeper::Verdict AudioKeeper::watch_over(const AudioGate& gate) {
     using SteadyClock = std::chrono::steady_clock;
+    const auto opened = SteadyClock::now();
+    auto last_call = opened;
+    auto last_sound = opened;
     std::uint64_t calls = 0;
-    auto last_call = SteadyClock::now();
-    auto last_sound = last_call;
     std::unique_lock lock(mutex_);
     while (!changed_.wait_for(lock, patience_.look, [this] { return quit_; })) {
         const auto now = SteadyClock::now();
+        const bool started = last_call - opened > patience_.started;
         if (gate.count() != calls) {
             calls = gate.count();
             last_call = now;
-        } else if (now - last_call > (calls == 0 ? patience_.first_call : patience_.next_call)) {
-            return Verdict::hangs;
+        } else if (now - last_call > (started ? patience_.next_call : patience_.start)) {
+            return started ? Verdict::hangs : Verdict::did_not_start;
         }
         if (!source_->idle()) last_sound = now;
         if (now - last_sound > patience_.idle) {

@@ -31,7 +31,8 @@ struct AudioPlan {
 // How long things may take.
 struct AudioPatience {
     std::chrono::milliseconds open_and_close{3000};
-    std::chrono::milliseconds first_call{4000};  // some servers are slow to start a stream
+    std::chrono::milliseconds start{5000};    // some servers let a new stream wait at first
+    std::chrono::milliseconds started{1000};  // from when on it is no longer new
     std::chrono::milliseconds next_call{1500};
     std::chrono::milliseconds idle{5000};
     std::chrono::milliseconds look{250};  // how often the above is looked at
@@ -50,7 +51,7 @@ class AudioKeeper final : public AudioOutput {
     std::optional<std::string> take_problem() override;
 
   private:
-    enum class Verdict { hangs, idle, quit };
+    enum class Verdict { did_not_start, hangs, idle, quit };
     struct Opened;
 
     void run();
@@ -63,7 +64,7 @@ class AudioKeeper final : public AudioOutput {
     const AudioPlan plan_;
     const AudioPatience patience_;
     AudioSource* source_ = nullptr;
-    std::vector<bool> useless_;  // devices that opened and never asked for sound
+    std::vector<bool> useless_;  // devices that opened and did not start
 
     std::mutex mutex_;  // guards what follows
     std::condition_variable changed_;

@@ -166,7 +166,6 @@ const std::vector<Scenario>& scenarios() {
          press(TransportKey::stop)},
         {"reset key", start_in(PlayMode::Alpha), [](World& w) { w.form.SSCommand1.click(); }},
         {"slider", start_in(PlayMode::Alpha), [](World& w) { w.form.Slider1.step_to(50); }},
-        {"slider while paused", start_paused, [](World& w) { w.form.Slider1.step_to(50); }},
         {"handed over", start_in(PlayMode::Alpha),
          [](World& w) {
              w.hand_over(w.path("c.MID"));
@@ -229,6 +228,7 @@ const std::vector<Intruder>& intruders() {
              w.hand_over(w.path("b.mid"));
              take_time(w, 1000);
          }},
+        {"new cycle", [](World& w) { w.engine->order.RefillAndPlayNext(); }},
         {"timers", [](World& w) { take_time(w, 600); }},
         {"end of the song", end_song},
         {"a long time", [](World& w) { take_time(w, 200'000); }},

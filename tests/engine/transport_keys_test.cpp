@@ -18,15 +18,10 @@ class Keys : public testing::Test {
         world.happened();
     }
     void press(TransportKey key) { world.form.MMControl1.press(key); }
-    std::string pause_item() const { return text_of(world.tray.mnuPause); }
-    std::string stop_item() const { return text_of(world.tray.mnuStop); }
+    std::string pause_item() const { return World::shown(world.tray.mnuPause); }
+    std::string stop_item() const { return World::shown(world.tray.mnuStop); }
 
     World world{"A.mid", "B.wav", "C.avi"};
-
-  private:
-    static std::string text_of(const MenuItem& item) {
-        return item.caption + (item.enabled ? "" : " (off)");
-    }
 };
 
 TEST_F(Keys, PauseHoldsTheSongAndPauseGoesOnInTheSamePlace) {

@@ -179,6 +179,18 @@ TEST_F(MpvBackendTest, EndThatComesDuringAPauseIsToldWhenPlayingGoesOn) {
     EXPECT_EQ(ends_, 1);
 }
 
+TEST_F(MpvBackendTest, EndNotYetToldIsForgottenWhenPlayingBeginsAnew) {
+    open_wave(100);
+    backend_.play();
+    std::this_thread::sleep_for(std::chrono::milliseconds(250));
+    const Milliseconds start = clock_.now();
+    backend_.play_from(0);
+    run_until_end();
+    EXPECT_GE(clock_.now() - start, 90);
+    run_for(30);
+    EXPECT_EQ(ends_, 1);
+}
+
 TEST_F(MpvBackendTest, EndThatWasWaitedForOrClosedAwayIsNotTold) {
     open_wave(60);
     backend_.wait_until_finished();  // returns at once: nothing plays

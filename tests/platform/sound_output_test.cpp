@@ -125,9 +125,13 @@ OpenDevice no_device(const LogPointer& log, const std::string& name) {
 
 // For devices that do not hang, however busy the machine is; and for some that do.
 constexpr AudioPatience kPatient{
-    .open_and_close = 9s, .first_call = 9s, .next_call = 9s, .idle = 100ms, .look = 5ms};
-constexpr AudioPatience kHurry{
-    .open_and_close = 300ms, .first_call = 300ms, .next_call = 200ms, .idle = 100ms, .look = 5ms};
+    .open_and_close = 9s, .start = 9s, .next_call = 9s, .idle = 100ms, .look = 5ms};
+constexpr AudioPatience kHurry{.open_and_close = 300ms,
+                               .start = 300ms,
+                               .started = 20ms,
+                               .next_call = 200ms,
+                               .idle = 100ms,
+                               .look = 5ms};
 
 struct AudioKeeperTest : testing::Test {
     LogPointer log = std::make_shared<Log>();
@@ -179,16 +183,16 @@ TEST_F(AudioKeeperTest, ClosesTheDeviceWhenThereIsNothingToHearAndOpensItAgain) 
 }
 
 TEST_F(AudioKeeperTest, ReplacesADeviceThatStopsAskingForSound) {
-    AudioKeeper keeper({{device(log, "dies", 20)}, device(log, "last"), "Nothing."}, kHurry);
+    AudioKeeper keeper({{device(log, "dies", 200)}, device(log, "last"), "Nothing."}, kHurry);
     keeper.connect(source);
     keeper.wake();
     EXPECT_TRUE(log->comes_to("dies closed"));
     EXPECT_TRUE(log->comes_to("dies opened"));  // it may have been only its server
 }
 
-TEST_F(AudioKeeperTest, GivesUpADeviceThatNeverAsksForSound) {
+TEST_F(AudioKeeperTest, GivesUpADeviceThatDoesNotStart) {
     AudioKeeper keeper(
-        {{device(log, "mute", 0), device(log, "b")}, device(log, "last"), "Nothing."}, kHurry);
+        {{device(log, "mute", 2), device(log, "b")}, device(log, "last"), "Nothing."}, kHurry);
     keeper.connect(source);
     keeper.wake();
     EXPECT_TRUE(log->comes_to("b opened"));
@@ -210,7 +214,7 @@ TEST_F(AudioKeeperTest, DoesNotWaitForADeviceThatHangsWhenItIsOpened) {
 }
 
 TEST_F(AudioKeeperTest, DoesNotWaitForADeviceThatHangsWhenItIsClosed) {
-    AudioKeeper keeper({{device(log, "stuck", 20, 800ms)}, device(log, "last"), "Nothing."},
+    AudioKeeper keeper({{device(log, "stuck", 200, 800ms)}, device(log, "last"), "Nothing."},
                        kHurry);
     keeper.connect(source);
     keeper.wake();

@@ -89,6 +89,10 @@ std::vector<std::string> World::names(const ListBox& list) {
     return names;
 }
 
+std::string World::shown(const MenuItem& entry) {
+    return entry.caption + (entry.enabled ? "" : " (off)");
+}
+
 std::string World::open_song() const {
     return midi.open_song() + wave.open_song() + video.open_song();
 }

@@ -77,6 +77,9 @@ class World {
     // The names in a list.
     static std::vector<std::string> names(const ListBox& list);
 
+    // A menu entry as the user sees it: "Stop", "Stop (off)".
+    static std::string shown(const MenuItem& entry);
+
     // The file name of the song that the device holds; "" when it holds none.
     std::string open_song() const;
 

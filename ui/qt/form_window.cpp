@@ -9,6 +9,7 @@
 #include "ui/qt/shown_text.h"
 #include "ui/qt/taskbar_button.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPaintEvent>
@@ -106,18 +107,24 @@ void FormWindow::subject_gone() {
 }
 
 void FormWindow::set_tab_order() {
-    std::vector<const Mirror*> stops;
     for (const auto& mirror : mirrors_) {
         if (mirror->widget() && mirror->control().tab_stop() == TabStop::yes) {
-            stops.push_back(mirror.get());
+            stops_.push_back(mirror.get());
         }
     }
-    std::stable_sort(stops.begin(), stops.end(), [](const Mirror* a, const Mirror* b) {
+    std::stable_sort(stops_.begin(), stops_.end(), [](const Mirror* a, const Mirror* b) {
         return a->control().tab() < b->control().tab();
     });
-    for (std::size_t i = 1; i < stops.size(); ++i) {
-        setTabOrder(stops[i - 1]->widget(), stops[i]->widget());
+    for (std::size_t i = 1; i < stops_.size(); ++i) {
+        setTabOrder(stops_[i - 1]->widget(), stops_[i]->widget());
     }
+}
+
+void FormWindow::focus_first_stop() {
+    const auto first = std::find_if(stops_.begin(), stops_.end(), [](const Mirror* stop) {
+        return stop->control().shown() && stop->control().usable();
+    });
+    if (first != stops_.end()) (*first)->widget()->setFocus(Qt::OtherFocusReason);
 }
 
 void FormWindow::use_scale() {
@@ -149,6 +156,14 @@ void FormWindow::show_or_hide() {
     take_place();
     take_state();
     show();
+    QTimer::singleShot(settle_after_show, this, &FormWindow::activate_shown);
+}
+
+void FormWindow::activate_shown() {
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (!isVisible() || isMinimized() || isActiveWindow() || (modal && modal != this)) return;
+    qDebug("activate_shown %d", QGuiApplication::focusWindow()==windowHandle());
+    activateWindow();
 }
 
 void FormWindow::take_state() {
@@ -277,8 +292,8 @@ void FormWindow::showEvent(QShowEvent* event) {
     if (pixels_of(*this, pixels_.factor).ratio != pixels_.ratio) use_scale();
     if (form_.focused()) {
         follow_focus();
-    } else if (!focusWidget()) {
-        focusNextChild();
+    } else {
+        focus_first_stop();
     }
 }
 

@@ -75,9 +75,11 @@ class FormWindow final : public QWidget, public ControlObserver {
 
   private:
     void set_tab_order();
+    void focus_first_stop();
     void use_scale();
     void take_place();
     void show_or_hide();
+    void activate_shown();
     void take_state();
     void report_place();
     QSize client_size() const;
@@ -88,6 +90,7 @@ class FormWindow final : public QWidget, public ControlObserver {
     Pixels pixels_;
     QWidget* tooltip_look_;  // never seen; tooltips take their style sheet from it
     std::vector<std::unique_ptr<Mirror>> mirrors_;
+    std::vector<const Mirror*> stops_;  // in the order of Tab
     QTimer moved_;  // runs out when the window has come to rest
     std::int32_t extended_style_;
     bool attached_ = true;
