@@ -28,6 +28,8 @@
 #include "platform/sound/synthesizer_engine.h"
 #include "platform/video/mpv_backend.h"
 #include "shell/message_box.h"
+#include "songdata/information_window.h"
+#include "songdata/song_summary.h"
 #include "ui/main_window_layout.h"
 #include "ui/qt/pixels.h"
 #include "ui/qt/qt_window_host.h"
@@ -65,6 +67,8 @@ class Zephyne {
           stage_{program_, form_,     tray_,   device_, files_,
                  pump_,    messages_, beeper_, random_},
           engine_(stage_),
+          summary_(stage_),
+          information_(stage_, windows_),
           layout_(stage_, windows_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
           shut_down_(stage_, engine_) {
@@ -97,6 +101,8 @@ class Zephyne {
     MediaDevice device_;
     Stage stage_;
     Engine engine_;
+    SongSummary summary_;
+    InformationWindow information_;
     MainWindowLayout layout_;
     StartUp start_up_;
     ShutDown shut_down_;

@@ -52,9 +52,10 @@ SongFolder& folder() {
 }
 
 void read_names(benchmark::State& state) {
+    const std::string path = folder().path;
     for (auto _ : state) {
         std::size_t bytes = 0;
-        DIR* directory = opendir(folder().path.c_str());
+        DIR* directory = opendir(path.c_str());
         while (const dirent* entry = readdir(directory)) bytes += entry->d_name[0];
         closedir(directory);
         benchmark::DoNotOptimize(bytes);
@@ -79,6 +80,7 @@ void list_songs(benchmark::State& state) {
     struct NoPump final : EventPump {
         void pump() override {}
         void wait() override {}
+        void show() override {}
     } pump;
     Stage stage{program, form, tray, device, files, pump, messages, beeper, random};
     Engine engine(stage);

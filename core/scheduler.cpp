@@ -22,11 +22,12 @@ Milliseconds EventSource::now() const {
     return scheduler_.now();
 }
 
-EventSource* Scheduler::earliest_due_by(Milliseconds moment) const {
+EventSource* Scheduler::earliest_due_by(Milliseconds moment, EventKind which) const {
     EventSource* earliest = nullptr;
     Milliseconds earliest_due = moment;
     for (EventSource* source : sources_) {
         if (source->running_) continue;
+        if (which == EventKind::display && source->kind_ != EventKind::display) continue;
         const auto due = source->due();
         if (!due || *due > earliest_due || (earliest && *due == earliest_due)) continue;
         earliest = source;
@@ -35,11 +36,11 @@ EventSource* Scheduler::earliest_due_by(Milliseconds moment) const {
     return earliest;
 }
 
-void Scheduler::dispatch_due() {
+void Scheduler::dispatch_due(EventKind which) {
     // The moment is taken once: a handler that keeps posting events cannot hold the caller here
     // for longer than its own millisecond.
     const Milliseconds moment = now();
-    while (EventSource* source = earliest_due_by(moment)) {
+    while (EventSource* source = earliest_due_by(moment, which)) {
         bool destroyed = false;
         source->running_ = true;
         source->destroyed_ = &destroyed;

@@ -21,6 +21,9 @@ namespace zephyne {
 
 class Scheduler;
 
+// What an event may touch: anything, or only what moves on the screen.
+enum class EventKind { any, display };
+
 // Anything that the scheduler can call: a timer or a queue. Not copied, and must not outlive the
 // scheduler. Destroying a source while its handler is on the stack is allowed: nothing of it is
 // touched afterwards.
@@ -28,6 +31,9 @@ class EventSource {
   public:
     EventSource(const EventSource&) = delete;
     EventSource& operator=(const EventSource&) = delete;
+
+    // A source that only moves what is shown goes on while a long step shuts everything else out.
+    void set_kind(EventKind kind) { kind_ = kind; }
 
   protected:
     explicit EventSource(Scheduler& scheduler);
@@ -46,6 +52,7 @@ class EventSource {
     virtual void fire() = 0;
 
     Scheduler& scheduler_;
+    EventKind kind_ = EventKind::any;
     bool running_ = false;
     bool* destroyed_ = nullptr;  // points into the running dispatch, if any
 };
@@ -57,8 +64,9 @@ class Scheduler {
     Scheduler& operator=(const Scheduler&) = delete;
 
     // Handles all that is due now, earliest first, and returns; what the handlers make due at a
-    // later moment waits for its own wake-up. May be called from inside a handler.
-    void dispatch_due();
+    // later moment waits for its own wake-up. May be called from inside a handler. With
+    // EventKind::display all other sources are left waiting.
+    void dispatch_due(EventKind which = EventKind::any);
 
     // The moment of the next event that can be handled now, or nothing when none is waiting.
     // Sources whose handler is on the stack do not count.
@@ -72,7 +80,7 @@ class Scheduler {
   private:
     friend class EventSource;
     void source_changed();
-    EventSource* earliest_due_by(Milliseconds moment) const;
+    EventSource* earliest_due_by(Milliseconds moment, EventKind which) const;
 
     const Clock& clock_;
     std::function<void()> wake_up_;
@@ -129,6 +137,10 @@ class EventPump {
     virtual ~EventPump() = default;
     virtual void pump() = 0;  // handles what is pending and returns, at once if nothing is
     virtual void wait() = 0;  // sleeps until there is something to handle, then as pump()
+
+    // In the middle of a long step that nothing may interrupt: the picture goes on, and all that
+    // acts (the user, devices, other timers) waits.
+    virtual void show() = 0;
 };
 
 }  // namespace zephyne

@@ -47,7 +47,8 @@ void PlayOrder::RefillAndPlayNext() {
 
 void PlayOrder::refill() {
     Form1& f = stage_.form;
-    f.List1.set_items(stage_.settings().Playlist == 1 ? f.List3.items() : f.File1.items());
+    f.List1.set_items(stage_.settings().Playlist == 1 ? f.List3.items() : f.File1.items(),
+                      Sorting::done);
     stage_.program.OrderIndex =
         runs_backwards(stage_.settings()) ? static_cast<std::int32_t>(f.List1.count()) - 1 : 0;
 }
@@ -56,7 +57,7 @@ void PlayOrder::refill_without(std::size_t song) {
     Form1& f = stage_.form;
     std::vector<ListItem> others = f.File1.items();
     others.erase(others.begin() + static_cast<std::ptrdiff_t>(song));
-    f.List1.set_items(std::move(others));
+    f.List1.set_items(std::move(others), Sorting::done);
     stage_.program.OrderIndex =
         runs_backwards(stage_.settings()) ? static_cast<std::int32_t>(f.List1.count()) - 1 : 0;
 }

@@ -11,6 +11,8 @@
 namespace zephyne {
 namespace {
 
+constexpr std::size_t kLongList = 10'000;
+
 bool is_listed(SongKind kind, const Settings& settings) {
     switch (kind) {
         case SongKind::midi:
@@ -44,6 +46,9 @@ void SongList::refreshfiles() {
     }
     std::vector<ListItem> songs;
     auto names = stage_.files.list_files(f.Dir1.path());
+    // A long list takes a while to read, to name and to sort; the picture goes on in between.
+    const bool is_long = names && names->size() > kLongList;
+    if (is_long) stage_.events.show();
     if (names) {
         const bool lower = stage_.settings().Lowercase == 1;
         for (std::string& name : *names) {
@@ -56,7 +61,9 @@ void SongList::refreshfiles() {
             }
         }
     }
+    if (is_long) stage_.events.show();
     f.File1.set_items(std::move(songs));
+    if (is_long) stage_.events.show();
 }
 
 void SongList::filepathchange() {

@@ -26,6 +26,8 @@ std::string percent_text(int percent) {
 }
 
 TimeDisplay::TimeDisplay(Stage& stage) : stage_(stage) {
+    stage_.form.Timer3.set_kind(EventKind::display);
+    stage_.form.Timer4.set_kind(EventKind::display);
     stage_.form.Timer3.on_tick = [this] { blink(); };
     stage_.form.Timer4.on_tick = [this] { animate(); };
     for (Picture* digit : digits_of(stage_.form)) {

@@ -58,8 +58,8 @@ std::vector<ListItem> ListBox::sorted(std::vector<ListItem> items) const {
     return result;
 }
 
-void ListBox::set_items(std::vector<ListItem> items) {
-    items_ = sorted(std::move(items));
+void ListBox::set_items(std::vector<ListItem> items, Sorting sorting) {
+    items_ = sorting == Sorting::done ? std::move(items) : sorted(std::move(items));
     selected_.reset();
     changed(Property::items);
 }

@@ -31,6 +31,9 @@ enum class ListOrder {
     by_entry,  // "name|folder": collation of the name, then of the folder
 };
 
+// Whether items handed in come from a list of the same order, or have to be sorted.
+enum class Sorting { needed, done };
+
 class ListBox final : public Control {
   public:
     // Splits an entry line into name and folder; only needed for ListOrder::by_entry.
@@ -46,7 +49,7 @@ class ListBox final : public Control {
 
     // All of these clear or keep the selection silently: the selected row stays selected while it
     // is there.
-    void set_items(std::vector<ListItem> items);
+    void set_items(std::vector<ListItem> items, Sorting sorting = Sorting::needed);
     std::size_t add(ListItem item);  // to its place in the order; returns that place
     void remove(std::size_t index);
     void clear();

@@ -62,18 +62,16 @@ std::string upper_case(std::string_view text) {
 
 std::string capitalised(std::string_view text) {
     if (text.empty()) return {};
-    std::size_t first = 1;
-    if (is_utf8(text)) {
-        std::string_view rest = text;
-        take_character(rest);
-        first = text.size() - rest.size();
-    }
     // The whole text decides whether Unicode applies, so that a name is never half one, half other.
-    if (!is_utf8(text)) {
-        return ascii_mapped(text.substr(0, first), Case::upper) +
-               ascii_mapped(text.substr(first), Case::lower);
+    if (is_ascii(text) || !is_utf8(text)) {
+        std::string result = ascii_mapped(text, Case::lower);
+        result.front() = ascii_upper(text.front());
+        return result;
     }
-    return upper_case(text.substr(0, first)) + lower_case(text.substr(first));
+    std::string_view rest = text;
+    take_character(rest);
+    const std::size_t first = text.size() - rest.size();
+    return upper_case(text.substr(0, first)) + lower_case(rest);
 }
 
 bool equal_ignoring_case(std::string_view a, std::string_view b) {

@@ -4,6 +4,7 @@
 #include <QEventLoop>
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace zephyne {
 namespace {
@@ -44,7 +45,16 @@ void QtEventPump::dispatch() {
     // that the timer rests instead of firing in vain.
     armed_for_.reset();
     arm();
-    scheduler_.dispatch_due();
+    scheduler_.dispatch_due(handled_);
+}
+
+void QtEventPump::show() {
+    const EventKind before = std::exchange(handled_, EventKind::display);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kPumpMilliseconds);
+    scheduler_.dispatch_due(handled_);
+    handled_ = before;
+    armed_for_.reset();
+    arm();
 }
 
 void QtEventPump::pump() {

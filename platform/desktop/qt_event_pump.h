@@ -21,12 +21,14 @@ class QtEventPump final : public EventPump {
 
     void pump() override;
     void wait() override;
+    void show() override;
 
   private:
     void arm();
     void dispatch();
 
     Scheduler& scheduler_;
+    EventKind handled_ = EventKind::any;
     QTimer timer_;
     std::optional<Milliseconds> armed_for_;  // the moment at which timer_ will fire
 };

@@ -5,8 +5,8 @@
 // a short cross-fade. General MIDI, GS and XG resets are obeyed, as are master volume messages.
 //
 // Threads: the sound font is loaded on any one thread; after that everything happens on the
-// thread that renders. Nothing but the loading allocates (a MIDI tuning message is the exception:
-// the library keeps a new table for it) and nothing takes a lock.
+// thread that renders. Nothing of ours but the loading allocates, and nothing takes a lock; the
+// library itself handles a few small blocks of memory, and a table for a MIDI tuning message.
 #pragma once
 
 #include "platform/sound/crossfade.h"

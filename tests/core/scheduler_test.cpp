@@ -167,5 +167,19 @@ TEST(Scheduler, TheWakeUpIsArmedWhenSomethingBecomesDueOrFree) {
     EXPECT_EQ(armed.back(), -150);
 }
 
+TEST(Scheduler, WhileOnlyTheDisplayGoesOnAllElseWaitsItsTurn) {
+    Stand stand;
+    const auto animation = stand.timer("animation", 10);
+    const auto worker = stand.timer("worker", 5);
+    EventQueue queue(stand.scheduler);
+    animation->set_kind(EventKind::display);
+    stand.clock.advance_to(stand.begin + 10);
+    queue.post([&] { stand.note("event"); });
+    stand.pump.show();
+    EXPECT_EQ(stand.log, (Log{"animation at 10"}));
+    stand.pump.pump();
+    EXPECT_EQ(stand.log, (Log{"animation at 10", "worker at 10", "event at 10"}));
+}
+
 }  // namespace
 }  // namespace zephyne::test

@@ -27,6 +27,8 @@ class VirtualPump final : public EventPump {
         --depth_;
     }
 
+    void show() override { scheduler_.dispatch_due(EventKind::display); }
+
     // Gives up with a failure when nothing will ever happen.
     void wait() override;
 

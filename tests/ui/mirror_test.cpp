@@ -13,6 +13,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
+#include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
 #include <QListView>
@@ -49,9 +50,9 @@ struct SampleForm : Form {
                {.name = "line", .place = {150, 1200, 2700, 285}, .tab = 3, .stop = TabStop::yes}),
           area(*this, TextLines::many, TextAccess::read_write,
                {.name = "area", .place = {3000, 1200, 2700, 1200}, .tab = 4, .stop = TabStop::yes}),
-          slider(*this, Orientation::horizontal,
-                 {.name = "slider", .place = {150, 1650, 2265, 255}, .tab = 5,
-                  .stop = TabStop::yes}),
+          slider(
+              *this, Orientation::horizontal,
+              {.name = "slider", .place = {150, 1650, 2265, 255}, .tab = 5, .stop = TabStop::yes}),
           list(*this, ListOrder::as_added,
                {.name = "list", .place = {150, 2100, 2700, 1500}, .tab = 6, .stop = TabStop::yes}),
           ok(*this, {.name = "ok",
@@ -228,6 +229,30 @@ TEST_F(MirrorTest, EnterAndEscapePressTheAnswersUnlessAKeyHasTheFocus) {
     QTest::keyClick(widget(form.line), Qt::Key_Escape);
     QTest::keyClick(widget(form.inner), Qt::Key_Return);
     EXPECT_EQ(taken(), (Log{"ok", "inner", "inner"}));
+}
+
+TEST_F(MirrorTest, ScreenReadersFindEachControlByKindAndNameAndCanPressIt) {
+    const auto reader = [&](const Control& control) {
+        return QAccessible::queryAccessibleInterface(widget(control));
+    };
+    const auto is = [&](const Control& control, QAccessible::Role role) {
+        const QAccessibleInterface* seen = reader(control);
+        return seen && seen->role() == role &&
+               seen->text(QAccessible::Name).toStdString() == control.accessible_name();
+    };
+    EXPECT_TRUE(is(form.ok, QAccessible::Button));
+    EXPECT_TRUE(is(form.box, QAccessible::CheckBox));
+    EXPECT_TRUE(is(form.line, QAccessible::EditableText));
+    EXPECT_TRUE(is(form.slider, QAccessible::Slider));
+    EXPECT_TRUE(is(form.list, QAccessible::List));
+
+    // Qt lets a key be seen going down, so its click takes a moment.
+    reader(form.ok)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.log == Log{"ok"}; }, 2000));
+    reader(form.box)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.box.value() == 1; }, 2000));
+    reader(form.slider)->valueInterface()->setCurrentValue(30);
+    EXPECT_EQ(form.slider.value(), 30);
 }
 
 TEST_F(MirrorTest, ReleasedKeysReachTheFormByTheirNumber) {

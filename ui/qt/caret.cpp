@@ -16,8 +16,7 @@ class TextStyle final : public QProxyStyle {
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override {
-        return metric == PM_TextCursorWidth ? 0
-                                            : QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_TextCursorWidth ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
     }
 };
 

@@ -16,7 +16,7 @@ class Caret final : public QObject {
     // The surface is the widget that the text is painted on; it owns the caret.
     explicit Caret(QWidget& surface);
 
-    void start();    // with a full period of light, as after each key
+    void start();  // with a full period of light, as after each key
     void stop();
 
     // In the surface's paint event, after the text. line: where the caret stands, logical, its

@@ -6,7 +6,6 @@
 
 #include <QComboBox>
 #include <QPointer>
-
 #include <functional>
 
 namespace zephyne {

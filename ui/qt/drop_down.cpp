@@ -5,7 +5,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
-
 #include <algorithm>
 #include <utility>
 
@@ -46,8 +45,7 @@ DropDown::DropDown(QWidget& parent, std::vector<QString> texts, std::size_t sele
       on_choose_(std::move(on_choose)),
       count_(texts.size()),
       view_(new RowsView(
-          this,
-          new Texts(std::move(texts), selected, [this](std::size_t row) { choose(row); }),
+          this, new Texts(std::move(texts), selected, [this](std::size_t row) { choose(row); }),
           paint::ListKind::DropDown)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_OpaquePaintEvent);

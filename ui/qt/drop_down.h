@@ -4,7 +4,6 @@
 #include "ui/qt/pixels.h"
 
 #include <QWidget>
-
 #include <cstddef>
 #include <functional>
 #include <vector>

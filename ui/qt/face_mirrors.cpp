@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-
 #include <algorithm>
 
 namespace zephyne {
@@ -89,9 +88,13 @@ void LabelMirror::paint(QPainter& painter, const paint::Scale& scale) const {
             paint::led_label(painter, scale, box(), role, paint::Align::Right,
                              display_of(label_.colour()), text);
             break;
-        case Style::brand: paint::brand(painter, scale, box(), text); break;
+        case Style::brand:
+            paint::brand(painter, scale, box(), text);
+            break;
         case Style::notice:
-        case Style::message: paint_wrapped(painter, scale); break;
+        case Style::message:
+            paint_wrapped(painter, scale);
+            break;
         case Style::strong:
             paint::label(painter, scale, box(),
                          {.enabled = label_.usable(), .role = role, .fit = paint::Fit::ElideMiddle},
@@ -148,18 +151,30 @@ QRect PictureMirror::reach() const {
 void PictureMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     const int image = picture_.image();
     switch (picture_.image_list()) {
-        case ImageList::digits: paint::led_digit(painter, scale, box(), image); break;
-        case ImageList::status: paint::led_status(painter, scale, box(), image); break;
-        case ImageList::roll: paint::note_roll(painter, scale, box(), image); break;
+        case ImageList::digits:
+            paint::led_digit(painter, scale, box(), image);
+            break;
+        case ImageList::status:
+            paint::led_status(painter, scale, box(), image);
+            break;
+        case ImageList::roll:
+            paint::note_roll(painter, scale, box(), image);
+            break;
         case ImageList::banner:
             paint::note_banner(painter, scale, box(),
                                picture_.place().width > wide_banner
                                    ? paint::BannerPlace::Information
                                    : paint::BannerPlace::MainWindow);
             break;
-        case ImageList::loudspeaker: paint::loudspeaker(painter, scale, box()); break;
-        case ImageList::sound_waves: paint::sound_waves(painter, scale, box(), image); break;
-        case ImageList::note_pad: paint::note_pad(painter, scale, box()); break;
+        case ImageList::loudspeaker:
+            paint::loudspeaker(painter, scale, box());
+            break;
+        case ImageList::sound_waves:
+            paint::sound_waves(painter, scale, box(), image);
+            break;
+        case ImageList::note_pad:
+            paint::note_pad(painter, scale, box());
+            break;
     }
     if (is_stop()) {
         paint::focus_ring(painter, scale, clock_box(), paint::glass_radius,

@@ -16,7 +16,6 @@
 #include <QTextDocument>
 #include <QToolTip>
 #include <QWindow>
-
 #include <algorithm>
 #include <utility>
 
@@ -34,8 +33,8 @@ constexpr auto settle_after_show = 50ms;
 constexpr Qt::WindowFlags main_window = Qt::Window | Qt::WindowTitleHint |
                                         Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                         Qt::WindowCloseButtonHint;
-constexpr Qt::WindowFlags dialog = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                                   Qt::WindowCloseButtonHint;
+constexpr Qt::WindowFlags dialog =
+    Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 
 bool is_modifier(const QKeyEvent& event) {
     switch (event.key()) {
@@ -45,8 +44,10 @@ bool is_modifier(const QKeyEvent& event) {
         case Qt::Key_AltGr:
         case Qt::Key_Meta:
         case Qt::Key_Super_L:
-        case Qt::Key_Super_R: return true;
-        default: return false;
+        case Qt::Key_Super_R:
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -57,9 +58,12 @@ WindowState state_of(const QWidget& window) {
 
 Qt::WindowStates qt_state(WindowState state) {
     switch (state) {
-        case WindowState::minimized: return Qt::WindowMinimized;
-        case WindowState::maximized: return Qt::WindowMaximized;
-        case WindowState::normal: break;
+        case WindowState::minimized:
+            return Qt::WindowMinimized;
+        case WindowState::maximized:
+            return Qt::WindowMaximized;
+        case WindowState::normal:
+            break;
     }
     return Qt::WindowNoState;
 }
@@ -151,8 +155,8 @@ void FormWindow::show_or_hide() {
         hide();
         return;
     }
-    set_taskbar_button(*this, (extended_style_ & kAppWindowStyle) != 0 ? TaskbarButton::yes
-                                                                       : TaskbarButton::no);
+    set_taskbar_button(
+        *this, (extended_style_ & kAppWindowStyle) != 0 ? TaskbarButton::yes : TaskbarButton::no);
     take_place();
     take_state();
     show();
@@ -162,8 +166,16 @@ void FormWindow::show_or_hide() {
 void FormWindow::activate_shown() {
     const QWidget* modal = QApplication::activeModalWidget();
     if (!isVisible() || isMinimized() || isActiveWindow() || (modal && modal != this)) return;
-    qDebug("activate_shown %d", QGuiApplication::focusWindow()==windowHandle());
-    activateWindow();
+    if (QGuiApplication::focusWindow() != windowHandle()) {
+        activateWindow();
+        return;
+    }
+    // Hidden and shown again at once: the window has kept the keyboard, so no event will ever tell
+    // Qt's widgets, which gave it up when they were hidden.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    QApplication::setActiveWindow(this);
+    QT_WARNING_POP
 }
 
 void FormWindow::take_state() {
@@ -175,11 +187,20 @@ void FormWindow::take_state() {
 
 void FormWindow::property_changed(Property property) {
     switch (property) {
-        case Property::title: setWindowTitle(shown(form_.title())); break;
-        case Property::place: take_place(); break;
-        case Property::visible: show_or_hide(); break;
-        case Property::state: take_state(); break;
-        default: break;
+        case Property::title:
+            setWindowTitle(shown(form_.title()));
+            break;
+        case Property::place:
+            take_place();
+            break;
+        case Property::visible:
+            show_or_hide();
+            break;
+        case Property::state:
+            take_state();
+            break;
+        default:
+            break;
     }
 }
 
@@ -240,12 +261,16 @@ bool FormWindow::press_answer_key(const QKeyEvent& event) {
     Control* answer = nullptr;
     switch (event.key()) {
         case Qt::Key_Return:
-        case Qt::Key_Enter: answer = form_.default_button(); break;
-        case Qt::Key_Escape: answer = form_.cancel_button(); break;
-        default: break;
+        case Qt::Key_Enter:
+            answer = form_.default_button();
+            break;
+        case Qt::Key_Escape:
+            answer = form_.cancel_button();
+            break;
+        default:
+            break;
     }
-    if (!answer || answer->kind() != ControlKind::button || !answer->shown() ||
-        !answer->usable()) {
+    if (!answer || answer->kind() != ControlKind::button || !answer->shown() || !answer->usable()) {
         return false;
     }
     // A key held down must not answer the next question, too.
@@ -334,11 +359,14 @@ void FormWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (!attached_) return;
     switch (event->type()) {
-        case QEvent::WindowStateChange: form_.user_changed_state(state_of(*this)); break;
+        case QEvent::WindowStateChange:
+            form_.user_changed_state(state_of(*this));
+            break;
         case QEvent::ActivationChange:
             if (Mirror* mirror = mirror_of(form_.focused())) mirror->repaint();
             break;
-        default: break;
+        default:
+            break;
     }
 }
 

@@ -13,7 +13,6 @@
 
 #include <QTimer>
 #include <QWidget>
-
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -91,7 +90,7 @@ class FormWindow final : public QWidget, public ControlObserver {
     QWidget* tooltip_look_;  // never seen; tooltips take their style sheet from it
     std::vector<std::unique_ptr<Mirror>> mirrors_;
     std::vector<const Mirror*> stops_;  // in the order of Tab
-    QTimer moved_;  // runs out when the window has come to rest
+    QTimer moved_;                      // runs out when the window has come to rest
     std::int32_t extended_style_;
     bool attached_ = true;
     bool keyboard_used_ = false;  // rather than the mouse, most recently

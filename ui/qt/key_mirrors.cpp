@@ -5,7 +5,6 @@
 #include "ui/qt/shown_text.h"
 
 #include <QKeyEvent>
-
 #include <charconv>
 
 namespace zephyne {
@@ -66,6 +65,12 @@ CheckBoxMirror::CheckBoxMirror(FormWindow& window, CheckBox& box)
     set_widget(key_);
     key_->setCheckable(true);
     connect(key_, &QAbstractButton::clicked, this, [this] { check_box_.click(); });
+    // Screen readers toggle the widget.
+    connect(key_, &QAbstractButton::toggled, this, [this](bool checked) {
+        if (checked == (check_box_.value() != 0)) return;
+        check_box_.click();
+        key_->setChecked(check_box_.value() != 0);
+    });
 }
 
 void CheckBoxMirror::show_property(Property property) {
@@ -103,8 +108,8 @@ void TransportMirror::laid_out() {
     const Pixels& pixels = window().pixels();
     const QPoint origin = origin_in_window(*widget());
     for (std::size_t i = 0; i < key_count; ++i) {
-        const QRect key = paint::transport_key_box(pixels.scale(), box(),
-                                                   static_cast<paint::TransportKey>(i));
+        const QRect key =
+            paint::transport_key_box(pixels.scale(), box(), static_cast<paint::TransportKey>(i));
         keys_[i]->setGeometry(pixels.containing(key).translated(-origin));
     }
 }
@@ -121,12 +126,17 @@ void TransportMirror::move_to(std::size_t key) {
 
 bool TransportMirror::key_pressed(QKeyEvent& event) {
     switch (event.key()) {
-        case Qt::Key_Left: move_to(current_ > 0 ? current_ - 1 : 0); return true;
-        case Qt::Key_Right: move_to(std::min(current_ + 1, key_count - 1)); return true;
+        case Qt::Key_Left:
+            move_to(current_ > 0 ? current_ - 1 : 0);
+            return true;
+        case Qt::Key_Right:
+            move_to(std::min(current_ + 1, key_count - 1));
+            return true;
         case Qt::Key_Space:
             if (!event.isAutoRepeat()) keys_[current_]->click();
             return true;
-        default: return false;
+        default:
+            return false;
     }
 }
 
@@ -136,9 +146,14 @@ void TransportMirror::paint(QPainter& painter, const paint::Scale& scale) const 
     state.focus = window().focus_look(transport_);
     state.current = static_cast<paint::TransportKey>(current_);
     switch (transport_.light()) {
-        case TransportLight::play: state.lit = paint::TransportLit::Play; break;
-        case TransportLight::pause: state.lit = paint::TransportLit::Pause; break;
-        case TransportLight::none: break;
+        case TransportLight::play:
+            state.lit = paint::TransportLit::Play;
+            break;
+        case TransportLight::pause:
+            state.lit = paint::TransportLit::Pause;
+            break;
+        case TransportLight::none:
+            break;
     }
     for (std::size_t i = 0; i < key_count; ++i) {
         const paint::Pointer pointer = pointer_at(*keys_[i]);

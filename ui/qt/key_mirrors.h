@@ -5,7 +5,6 @@
 #include "ui/qt/mirror.h"
 
 #include <QAbstractButton>
-
 #include <array>
 
 namespace zephyne {

@@ -6,7 +6,6 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
-
 #include <cmath>
 
 namespace zephyne {
@@ -38,8 +37,8 @@ void LineEdit::lay_out(const Pixels& pixels, const QRect& box) {
     box_ = box;
     setFont(paint::font(paint::Role::Row, pixels.logical_scale()));
     const QRect inside = paint::text_box_interior(pixels.scale(), box, paint::TextLines::One);
-    const int side = static_cast<int>(std::lround((inside.left() - box.left()) / pixels.ratio)) -
-                     qt_side_margin;
+    const int side =
+        static_cast<int>(std::lround((inside.left() - box.left()) / pixels.ratio)) - qt_side_margin;
     setTextMargins(side, 0, side, 0);
 }
 
@@ -68,14 +67,12 @@ void LineEdit::paintEvent(QPaintEvent* event) {
         DevicePainter painter(*this);
         painter.setClipRect(
             paint::text_box_interior(scale, box_, paint::TextLines::One).adjusted(-1, 0, 1, 0));
-        paint::draw_text(painter, scale, line, text,
-                         {.role = paint::Role::Row, .color = colour_});
+        paint::draw_text(painter, scale, line, text, {.role = paint::Role::Row, .color = colour_});
         if (hasSelectedText()) {
             const double from = left + width_of(text.left(selectionStart()));
             const double to = left + width_of(text.left(selectionEnd()));
             const int margin = scale.px(2);
-            const QRectF selected(from, box_.top() + margin, to - from,
-                                  box_.height() - 2 * margin);
+            const QRectF selected(from, box_.top() + margin, to - from, box_.height() - 2 * margin);
             painter.setClipRect(selected.toRect(), Qt::IntersectClip);
             painter.fillRect(selected.toRect(), paint::palette::selection);
             paint::draw_text(painter, scale, line, text,

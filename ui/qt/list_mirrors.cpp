@@ -46,62 +46,39 @@ class DirListRows final : public Rows {
 
 }  // namespace
 
-ListBoxMirror::ListBoxMirror(FormWindow& window, ListBox& list)
-    : Mirror(window, list),
-      list_(list),
-      rows_(new ListBoxRows(list)),
-      view_(new RowsView(&window, rows_, paint::ListKind::Plain)) {
+RowsMirror::RowsMirror(FormWindow& window, Control& control, Rows* rows, paint::ListKind kind)
+    : Mirror(window, control), rows_(rows), view_(new RowsView(&window, rows, kind)) {
     set_widget(view_);
     watch(view_->viewport());
 }
 
-void ListBoxMirror::paint(QPainter& painter, const paint::Scale& scale) const {
+void RowsMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     paint::list_ground(painter, scale, box(), look());
 }
 
-void ListBoxMirror::show_property(Property property) {
-    if (property == Property::items) rows_->reset(list_.count());
+void RowsMirror::show_property(Property property) {
+    if (property == Property::items) rows_->reset(row_count());
     if (property == Property::items || property == Property::selection) view_->follow_selection();
 }
 
-void ListBoxMirror::laid_out() {
+void RowsMirror::laid_out() {
     view_->lay_out(window().pixels(), box());
 }
 
-void ListBoxMirror::detached() {
+void RowsMirror::detached() {
     rows_->reset(0);
 }
 
-DirListMirror::DirListMirror(FormWindow& window, DirList& list)
-    : Mirror(window, list),
-      list_(list),
-      rows_(new DirListRows(list)),
-      view_(new RowsView(&window, rows_, paint::ListKind::Folders)) {
-    set_widget(view_);
-    watch(view_->viewport());
-}
+ListBoxMirror::ListBoxMirror(FormWindow& window, ListBox& list)
+    : RowsMirror(window, list, new ListBoxRows(list), paint::ListKind::Plain), list_(list) {}
 
-void DirListMirror::paint(QPainter& painter, const paint::Scale& scale) const {
-    paint::list_ground(painter, scale, box(), look());
-}
+DirListMirror::DirListMirror(FormWindow& window, DirList& list)
+    : RowsMirror(window, list, new DirListRows(list), paint::ListKind::Folders), list_(list) {}
 
 bool DirListMirror::key_pressed(QKeyEvent& event) {
     if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter) return false;
     if (!event.isAutoRepeat()) list_.open(list_.selected());
     return true;
-}
-
-void DirListMirror::show_property(Property property) {
-    if (property == Property::items) rows_->reset(list_.rows().size());
-    if (property == Property::items || property == Property::selection) view_->follow_selection();
-}
-
-void DirListMirror::laid_out() {
-    view_->lay_out(window().pixels(), box());
-}
-
-void DirListMirror::detached() {
-    rows_->reset(0);
 }
 
 }  // namespace zephyne

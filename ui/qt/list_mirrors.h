@@ -4,43 +4,56 @@
 #include "core/controls/folder_lists.h"
 #include "core/controls/list_box.h"
 #include "ui/qt/mirror.h"
+#include "ui/qt/paint/lists.h"
+
+#include <cstddef>
 
 namespace zephyne {
 
 class RowsView;
 class Rows;
 
-class ListBoxMirror final : public Mirror {
+// What the two have in common: a ground, rows on it, and a selection to follow.
+class RowsMirror : public Mirror {
   public:
-    ListBoxMirror(FormWindow& window, ListBox& list);
     void paint(QPainter& painter, const paint::Scale& scale) const override;
+
+  protected:
+    // The view takes the rows.
+    RowsMirror(FormWindow& window, Control& control, Rows* rows, paint::ListKind kind);
+
+    virtual std::size_t row_count() const = 0;
 
   private:
     void show_property(Property property) override;
     void laid_out() override;
     void detached() override;
 
-    ListBox& list_;
     Rows* rows_;
     RowsView* view_;
 };
 
+class ListBoxMirror final : public RowsMirror {
+  public:
+    ListBoxMirror(FormWindow& window, ListBox& list);
+
+  private:
+    std::size_t row_count() const override { return list_.count(); }
+
+    ListBox& list_;
+};
+
 // Enter opens a folder, also in a window that has a default key.
-class DirListMirror final : public Mirror {
+class DirListMirror final : public RowsMirror {
   public:
     DirListMirror(FormWindow& window, DirList& list);
-    void paint(QPainter& painter, const paint::Scale& scale) const override;
     bool takes_enter() const override { return true; }
 
   private:
-    void show_property(Property property) override;
+    std::size_t row_count() const override { return list_.rows().size(); }
     bool key_pressed(QKeyEvent& event) override;
-    void laid_out() override;
-    void detached() override;
 
     DirList& list_;
-    Rows* rows_;
-    RowsView* view_;
 };
 
 }  // namespace zephyne

@@ -20,23 +20,34 @@ std::unique_ptr<Mirror> mirror(FormWindow& window, Control& control) {
 
 std::unique_ptr<Mirror> make_mirror(FormWindow& window, Control& control) {
     switch (control.kind()) {
-        case ControlKind::label: return mirror<LabelMirror, Label>(window, control);
-        case ControlKind::button: return mirror<ButtonMirror, Button>(window, control);
-        case ControlKind::check_box: return mirror<CheckBoxMirror, CheckBox>(window, control);
-        case ControlKind::list_box: return mirror<ListBoxMirror, ListBox>(window, control);
-        case ControlKind::drive_list: return mirror<DriveListMirror, DriveList>(window, control);
-        case ControlKind::dir_list: return mirror<DirListMirror, DirList>(window, control);
-        case ControlKind::slider: return mirror<SliderMirror, Slider>(window, control);
-        case ControlKind::frame: return mirror<FrameMirror, Frame>(window, control);
-        case ControlKind::picture: return mirror<PictureMirror, Picture>(window, control);
-        case ControlKind::transport: return mirror<TransportMirror, Transport>(window, control);
+        case ControlKind::label:
+            return mirror<LabelMirror, Label>(window, control);
+        case ControlKind::button:
+            return mirror<ButtonMirror, Button>(window, control);
+        case ControlKind::check_box:
+            return mirror<CheckBoxMirror, CheckBox>(window, control);
+        case ControlKind::list_box:
+            return mirror<ListBoxMirror, ListBox>(window, control);
+        case ControlKind::drive_list:
+            return mirror<DriveListMirror, DriveList>(window, control);
+        case ControlKind::dir_list:
+            return mirror<DirListMirror, DirList>(window, control);
+        case ControlKind::slider:
+            return mirror<SliderMirror, Slider>(window, control);
+        case ControlKind::frame:
+            return mirror<FrameMirror, Frame>(window, control);
+        case ControlKind::picture:
+            return mirror<PictureMirror, Picture>(window, control);
+        case ControlKind::transport:
+            return mirror<TransportMirror, Transport>(window, control);
         case ControlKind::text_box:
             return static_cast<TextBox&>(control).lines() == TextLines::one
                        ? mirror<TextLineMirror, TextBox>(window, control)
                        : mirror<TextAreaMirror, TextBox>(window, control);
         case ControlKind::option_button:
         case ControlKind::shape:
-        case ControlKind::line: break;
+        case ControlKind::line:
+            break;
     }
     return std::make_unique<DecorationMirror>(window, control);
 }

@@ -59,7 +59,8 @@ void Mirror::subject_gone() {
 }
 
 void Mirror::lay_out() {
-    if (widget_) widget_->setGeometry(window_.pixels().containing(window_.pixels().box(control_.place())));
+    if (widget_)
+        widget_->setGeometry(window_.pixels().containing(window_.pixels().box(control_.place())));
     laid_out();
 }
 
@@ -75,7 +76,9 @@ void Mirror::show_name() {
 
 void Mirror::property_changed(Property property) {
     switch (property) {
-        case Property::place: lay_out(); break;
+        case Property::place:
+            lay_out();
+            break;
         case Property::visible:
             if (widget_) widget_->setVisible(control_.shown());
             break;
@@ -83,9 +86,14 @@ void Mirror::property_changed(Property property) {
             if (widget_) widget_->setEnabled(control_.usable());
             break;
         case Property::caption:
-        case Property::tooltip: show_name(); break;
-        case Property::focus: window_.follow_focus(); break;
-        default: break;
+        case Property::tooltip:
+            show_name();
+            break;
+        case Property::focus:
+            window_.follow_focus();
+            break;
+        default:
+            break;
     }
     show_property(property);
     repaint();
@@ -104,7 +112,9 @@ bool Mirror::eventFilter(QObject* /*target*/, QEvent* event) {
     switch (event->type()) {
         case QEvent::Enter:
         case QEvent::Leave:
-        case QEvent::FocusOut: repaint(); break;
+        case QEvent::FocusOut:
+            repaint();
+            break;
         case QEvent::FocusIn:
             repaint();
             control_.form().set_focused(&control_);
@@ -113,12 +123,16 @@ bool Mirror::eventFilter(QObject* /*target*/, QEvent* event) {
             window_.show_tooltip(static_cast<QHelpEvent*>(event)->globalPos(),
                                  shown(control_.tooltip()));
             return true;
-        case QEvent::MouseButtonPress: window_.mouse_used(); break;
-        case QEvent::KeyPress: return press_key(*static_cast<QKeyEvent*>(event));
+        case QEvent::MouseButtonPress:
+            window_.mouse_used();
+            break;
+        case QEvent::KeyPress:
+            return press_key(*static_cast<QKeyEvent*>(event));
         case QEvent::KeyRelease:
             window_.report_released_key(*static_cast<QKeyEvent*>(event));
             break;
-        default: break;
+        default:
+            break;
     }
     return attached_ && handle(*event);
 }
@@ -128,6 +142,5 @@ bool Mirror::press_key(QKeyEvent& event) {
     if (takes_enter()) return key_pressed(event) || window_.press_answer_key(event);
     return window_.press_answer_key(event) || key_pressed(event);
 }
-
 
 }  // namespace zephyne

@@ -1,7 +1,6 @@
 #include "ui/qt/pixels.h"
 
 #include <QWidget>
-
 #include <cmath>
 
 namespace zephyne {

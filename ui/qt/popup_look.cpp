@@ -4,7 +4,6 @@
 #include "ui/qt/paint/type.h"
 
 #include <QMenu>
-
 #include <memory>
 #include <utility>
 
@@ -17,17 +16,17 @@ namespace palette = paint::palette;
 QString filled_in(QString sheet, double factor) {
     const paint::Scale scale{factor};
     const std::pair<const char*, QColor> colors[] = {
-        {"$ground", palette::popup},      {"$edge", palette::popup_edge},
-        {"$text", palette::engraving},    {"$quiet", palette::quiet},
+        {"$ground", palette::popup},        {"$edge", palette::popup_edge},
+        {"$text", palette::engraving},      {"$quiet", palette::quiet},
         {"$selection", palette::selection}, {"$lit", palette::selection_text}};
     for (const auto& [name, color] : colors) sheet.replace(QLatin1String(name), color.name());
     for (const int length : {1, 2, 3, 4, 11, 22}) {
         sheet.replace(QStringLiteral("(%1)").arg(length),
                       QStringLiteral("%1px").arg(scale.px(length)));
     }
-    return sheet.replace(QLatin1String("$family"),
-                         paint::font(paint::Role::Caption, scale).families().join(
-                             QLatin1String("\", \"")));
+    return sheet.replace(
+        QLatin1String("$family"),
+        paint::font(paint::Role::Caption, scale).families().join(QLatin1String("\", \"")));
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QScreen>
-
 #include <algorithm>
 #include <utility>
 
@@ -29,8 +28,8 @@ FormWindow* QtWindowHost::window_of(const Form& form) const {
 
 int QtWindowHost::text_height(const Label& label) const {
     const Pixels pixels{factor_, qGuiApp->primaryScreen()->devicePixelRatio()};
-    const int height = paint::wrapped_height(pixels.scale(), shown(label.caption()),
-                                             role_of(label), pixels.box(label.place()).width());
+    const int height = paint::wrapped_height(pixels.scale(), shown(label.caption()), role_of(label),
+                                             pixels.box(label.place()).width());
     return pixels.twips(pixels.containing({0, 0, 1, height}).height());
 }
 

@@ -4,7 +4,6 @@
 #include "core/ports/window_host.h"
 
 #include <QPointer>
-
 #include <functional>
 #include <unordered_map>
 

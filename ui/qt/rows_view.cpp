@@ -5,7 +5,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
-
 #include <utility>
 
 namespace zephyne {
@@ -89,9 +88,9 @@ void RowsView::lay_out(const Pixels& pixels, const QRect& box) {
 
 void RowsView::set_margins() {
     thumb_.lay_out(pixels_, box_);
-    const QRect rows = paint::rows_area(
-        pixels_.scale(), box_, kind_,
-        thumb_.needed() ? paint::ScrollBar::Shown : paint::ScrollBar::Hidden);
+    const QRect rows =
+        paint::rows_area(pixels_.scale(), box_, kind_,
+                         thumb_.needed() ? paint::ScrollBar::Shown : paint::ScrollBar::Hidden);
     const QRect area = pixels_.within(rows).translated(-origin_in_window(*this));
     setViewportMargins(area.left(), area.top(), width() - area.right() - 1,
                        height() - area.bottom() - 1);

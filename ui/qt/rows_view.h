@@ -7,7 +7,6 @@
 
 #include <QAbstractListModel>
 #include <QListView>
-
 #include <cstddef>
 #include <functional>
 #include <optional>

@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
-
 #include <algorithm>
 #include <cmath>
 
@@ -76,8 +75,8 @@ bool SliderMirror::press(const QMouseEvent& event) {
     const bool held_by_cap = is_on_cap(point);
     grip_ = QPoint();
     if (held_by_cap) {
-        grip_ = point - paint::slider_cap_box(window().pixels().scale(), box(), kind_, fraction())
-                            .center();
+        grip_ = point -
+                paint::slider_cap_box(window().pixels().scale(), box(), kind_, fraction()).center();
     }
     dragging_ = true;
     slider_.press();
@@ -116,13 +115,19 @@ bool SliderMirror::turn(const QWheelEvent& event) {
 bool SliderMirror::handle(QEvent& event) {
     switch (event.type()) {
         case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonDblClick: return press(static_cast<QMouseEvent&>(event));
-        case QEvent::MouseMove: return move(static_cast<QMouseEvent&>(event));
+        case QEvent::MouseButtonDblClick:
+            return press(static_cast<QMouseEvent&>(event));
+        case QEvent::MouseMove:
+            return move(static_cast<QMouseEvent&>(event));
         case QEvent::MouseButtonRelease:
             return static_cast<QMouseEvent&>(event).button() == Qt::LeftButton && release();
-        case QEvent::Wheel: return turn(static_cast<QWheelEvent&>(event));
-        case QEvent::Leave: over_cap_ = false; return false;
-        default: return false;
+        case QEvent::Wheel:
+            return turn(static_cast<QWheelEvent&>(event));
+        case QEvent::Leave:
+            over_cap_ = false;
+            return false;
+        default:
+            return false;
     }
 }
 
@@ -131,14 +136,27 @@ bool SliderMirror::key_pressed(QKeyEvent& event) {
     const int value = slider_.value();
     switch (event.key()) {
         case Qt::Key_Left:
-        case Qt::Key_Up: slider_.step_to(value - 1); return true;
+        case Qt::Key_Up:
+            slider_.step_to(value - 1);
+            return true;
         case Qt::Key_Right:
-        case Qt::Key_Down: slider_.step_to(value + 1); return true;
-        case Qt::Key_PageUp: slider_.step_to(value - page_step); return true;
-        case Qt::Key_PageDown: slider_.step_to(value + page_step); return true;
-        case Qt::Key_Home: slider_.step_to(Slider::lowest); return true;
-        case Qt::Key_End: slider_.step_to(Slider::highest); return true;
-        default: return false;
+        case Qt::Key_Down:
+            slider_.step_to(value + 1);
+            return true;
+        case Qt::Key_PageUp:
+            slider_.step_to(value - page_step);
+            return true;
+        case Qt::Key_PageDown:
+            slider_.step_to(value + page_step);
+            return true;
+        case Qt::Key_Home:
+            slider_.step_to(Slider::lowest);
+            return true;
+        case Qt::Key_End:
+            slider_.step_to(Slider::highest);
+            return true;
+        default:
+            return false;
     }
 }
 

@@ -1,10 +1,9 @@
 #include "ui/qt/taskbar_button.h"
 
-#include <QGuiApplication>
-#include <QWidget>
-
 #include <xcb/xcb.h>
 
+#include <QGuiApplication>
+#include <QWidget>
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -31,8 +30,8 @@ xcb_atom_t atom(xcb_connection_t* connection, const char* name) {
 std::vector<xcb_atom_t> atoms_of(xcb_connection_t* connection, xcb_window_t window,
                                  xcb_atom_t property) {
     constexpr std::uint32_t more_than_enough = 64;
-    const auto request = xcb_get_property(connection, 0, window, property, XCB_ATOM_ATOM, 0,
-                                          more_than_enough);
+    const auto request =
+        xcb_get_property(connection, 0, window, property, XCB_ATOM_ATOM, 0, more_than_enough);
     const ReplyPointer<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(connection, request, nullptr));
     if (!reply || reply->format != 32) return {};

@@ -10,7 +10,6 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
-
 #include <algorithm>
 #include <cmath>
 
@@ -100,9 +99,7 @@ void TextArea::paint_line(QPainter& painter, const QTextBlock& block, const QTex
     const double ratio = pixels_.ratio;
     const double top = std::round(place.y() * ratio);
     const double height = pitch() * ratio;
-    const auto x_of = [&](int position) {
-        return (place.x() + line.cursorToX(position)) * ratio;
-    };
+    const auto x_of = [&](int position) { return (place.x() + line.cursorToX(position)) * ratio; };
     const int end = line.textStart() + line.textLength();
     const auto draw_with = [&](const QColor& colour, paint::Glow glow) {
         for (int from = line.textStart(); from < end;) {

@@ -36,10 +36,15 @@ void TextBoxMirror::paint(QPainter& painter, const paint::Scale& scale) const {
 
 void TextBoxMirror::show_property(Property property) {
     switch (property) {
-        case Property::text: show_text(); break;
+        case Property::text:
+            show_text();
+            break;
         case Property::colour:
-        case Property::enabled: set_colour(text_colour(text_box_)); break;
-        default: break;
+        case Property::enabled:
+            set_colour(text_colour(text_box_));
+            break;
+        default:
+            break;
     }
 }
 
