@@ -99,12 +99,7 @@ void BetweenSongs::play_reset_sequence() {
     display_.show_reset_glyphs();
     f.set_title("Resetting MCI Sequencer...");
     stage_.events.pump();
-    if (device.is_open()) {  // by what has just been handled
-        device.Notify = false;
-        device.Wait = true;
-        device.command(DeviceCommand::Stop);
-        device.command(DeviceCommand::Close);
-    }
+    // What has just been handled may have opened a song; the Open below closes it.
     device.Type = DeviceType::Sequencer;
     stage_.program.SwitchingSong = true;
     device.Notify = false;

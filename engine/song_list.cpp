@@ -51,6 +51,7 @@ void SongList::refreshfiles() {
     if (is_long) stage_.events.show();
     if (names) {
         const bool lower = stage_.settings().Lowercase == 1;
+        songs.reserve(names->size());
         for (std::string& name : *names) {
             if (!is_listed(song_kind(name), stage_.settings())) continue;
             std::string shown = lower ? capitalised(name) : name;
@@ -116,7 +117,8 @@ void SongList::Drive1_Change() {
     if (std::exchange(recovering_, true)) return;
     stage_.messages.ShowDlgMessage("Error - Drive May Be Unavailable.", 0, "Drive Error");
     (void)f.Drive1.set_drive_of(stage_.program.StartFolder);
-    if (!f.Dir1.set_path(f.Drive1.drive().root)) f.Drive1.follow(f.Dir1.path());
+    (void)f.Dir1.set_path(f.Drive1.drive().root);
+    f.Drive1.follow(f.Dir1.path());
     recovering_ = false;
 }
 

@@ -1,60 +1,41 @@
 #include "core/controls/list_box.h"
 
+#include "core/text/key_sort.h"
 #include "core/text/letter_case.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 #include <utility>
 
 namespace zephyne {
-namespace {
-
-// A key with its first eight bytes as a number, so that most comparisons touch no string.
-struct SortEntry {
-    std::uint64_t first_bytes;
-    std::uint32_t index;
-};
-
-std::uint64_t first_bytes_of(std::string_view key) {
-    std::uint64_t value = 0;
-    for (std::size_t i = 0; i < 8; ++i) {
-        value = (value << 8U) | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
-    }
-    return value;
-}
-
-}  // namespace
 
 ListBox::ListBox(Form& form, ListOrder order, const ControlDesign& design, EntrySplitter splitter)
     : Control(form, ControlKind::list_box, design), order_(order), splitter_(splitter) {}
 
-std::string ListBox::key_of(std::string_view text) const {
-    if (order_ != ListOrder::by_entry || !splitter_) return collation_key(text);
+void ListBox::append_key(std::string& key, std::string_view text) const {
+    if (order_ != ListOrder::by_entry || !splitter_) return append_collation_key(key, text);
     const auto [name, folder] = splitter_(text);
-    return collation_key(name, folder);
+    append_collation_key(key, name);
+    key += '\0';
+    append_collation_key(key, folder);
+}
+
+std::string ListBox::key_of(std::string_view text) const {
+    std::string key;
+    append_key(key, text);
+    return key;
 }
 
 std::vector<ListItem> ListBox::sorted(std::vector<ListItem> items) const {
     if (order_ == ListOrder::as_added) return items;
-    std::vector<std::string> keys;
-    keys.reserve(items.size());
-    for (const ListItem& item : items) keys.push_back(key_of(item.text));
-    if (std::is_sorted(keys.begin(), keys.end())) return items;
-
-    std::vector<SortEntry> order(items.size());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        order[i] = {first_bytes_of(keys[i]), static_cast<std::uint32_t>(i)};
+    KeySort sort(items.size());
+    for (const ListItem& item : items) {
+        append_key(sort.bytes(), item.text);
+        sort.close_key();
     }
-    std::sort(order.begin(), order.end(), [&](const SortEntry& a, const SortEntry& b) {
-        if (a.first_bytes != b.first_bytes) return a.first_bytes < b.first_bytes;
-        const int difference = keys[a.index].compare(keys[b.index]);
-        return difference != 0 ? difference < 0 : a.index < b.index;
-    });
-
     std::vector<ListItem> result;
     result.reserve(items.size());
-    for (const SortEntry& entry : order) result.push_back(std::move(items[entry.index]));
+    for (const std::uint32_t index : sort.order()) result.push_back(std::move(items[index]));
     return result;
 }
 

@@ -68,6 +68,7 @@ class ListBox final : public Control {
     std::size_t lower_bound(std::string_view text) const;
 
   private:
+    void append_key(std::string& key, std::string_view text) const;
     std::string key_of(std::string_view text) const;
     std::vector<ListItem> sorted(std::vector<ListItem> items) const;
 

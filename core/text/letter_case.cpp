@@ -5,7 +5,6 @@
 #include <utf8proc.h>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace zephyne {
 namespace {
@@ -31,24 +30,43 @@ std::string mapped(std::string_view text, Case to) {
     std::string result;
     result.reserve(text.size());
     while (!text.empty()) {
-        const char32_t c = take_character(text);
-        const auto code = static_cast<utf8proc_int32_t>(c);
+        if ((text.front() & 0x80) == 0) {
+            result += to == Case::lower ? ascii_lower(text.front()) : ascii_upper(text.front());
+            text.remove_prefix(1);
+            continue;
+        }
+        const auto code = static_cast<utf8proc_int32_t>(take_character(text));
         append_character(result, static_cast<char32_t>(to == Case::lower ? utf8proc_tolower(code)
                                                                          : utf8proc_toupper(code)));
     }
     return result;
 }
 
+void append_folded(std::string& result, std::string_view text) {
+    const bool unicode = !is_ascii(text) && is_utf8(text);
+    while (!text.empty()) {
+        if (!unicode || (text.front() & 0x80) == 0) {
+            result += ascii_lower(text.front());
+            text.remove_prefix(1);
+            continue;
+        }
+        constexpr int longest = 8;  // characters that one folds to; three at present
+        utf8proc_int32_t characters[longest];
+        int boundary = UTF8PROC_BOUNDCLASS_START;
+        const auto count =
+            utf8proc_decompose_char(static_cast<utf8proc_int32_t>(take_character(text)), characters,
+                                    longest, UTF8PROC_CASEFOLD, &boundary);
+        for (utf8proc_ssize_t i = 0; i < count && i < longest; ++i) {
+            append_character(result, static_cast<char32_t>(characters[i]));
+        }
+    }
+}
+
 std::string folded(std::string_view text) {
-    if (is_ascii(text) || !is_utf8(text)) return ascii_mapped(text, Case::lower);
-    utf8proc_uint8_t* result = nullptr;
-    const auto length =
-        utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
-                     static_cast<utf8proc_ssize_t>(text.size()), &result, UTF8PROC_CASEFOLD);
-    if (length < 0) return ascii_mapped(text, Case::lower);
-    std::string key(reinterpret_cast<char*>(result), static_cast<std::size_t>(length));
-    std::free(result);
-    return key;
+    std::string result;
+    result.reserve(text.size());
+    append_folded(result, text);
+    return result;
 }
 
 }  // namespace
@@ -86,10 +104,15 @@ std::string collation_prefix(std::string_view text) {
     return folded(text);
 }
 
-std::string collation_key(std::string_view text) {
-    std::string key = folded(text);
+void append_collation_key(std::string& key, std::string_view text) {
+    append_folded(key, text);
     key += '\0';
     key += text;
+}
+
+std::string collation_key(std::string_view text) {
+    std::string key;
+    append_collation_key(key, text);
     return key;
 }
 

@@ -23,6 +23,7 @@ bool starts_with_ignoring_case(std::string_view text, std::string_view prefix);
 // that no two different texts are equal. An entry line ("name|folder") is ordered by its name and
 // then by its folder; pass its two parts. Keys are meant to be made once per item and sort.
 std::string collation_key(std::string_view text);
+void append_collation_key(std::string& key, std::string_view text);
 std::string collation_key(std::string_view name, std::string_view folder);
 
 // What the keys of all texts begin with that begin with this one, in whatever letter case.

@@ -129,6 +129,26 @@ TEST(PlayOrder, NextGoesOnByTheOrderUntilTheLastSongOfTheCyclePlays) {
     EXPECT_EQ(world.played(), Log{"A.mid"}) << "the next cycle";
 }
 
+TEST(PlayOrder, NextIsDeafWhileASongIsOnItsWay) {
+    World world{"A.MID", "B.MID", "C.mid", "D.mid"};
+    world.settings().Lowercase = 0;
+    world.start(PlayMode::Alpha);
+    world.pump.on_pump = [&] { world.form.Command9.click(); };
+    world.form.Command9.click();
+    EXPECT_EQ(world.played(), (Log{"A.MID", "B.MID"}));
+}
+
+TEST(PlayOrder, ANewCycleRemembersTheSongThatItInterruptsInAFolderOnly) {
+    World world{"A.mid", "B.mid"};
+    world.start(PlayMode::Preview);
+    world.form.Command6.click();
+    EXPECT_EQ(world.program.RecentSongs[0].name, "A.mid");
+    world.open_playlist({"B.mid|/music/"});
+    world.settings().Mode = PlayMode::Preview;
+    for (int i = 0; i < 3; ++i) world.form.Command6.click();
+    EXPECT_EQ(world.program.RecentCount, 1);
+}
+
 TEST(PlayOrder, NextInManualModePlaysTheSongBelowAndStopsAtTheLast) {
     World world{"A.mid", "B.mid", "C.mid"};
     world.open_folder();

@@ -120,6 +120,36 @@ TEST_F(End, TheQueueIsServedWhenItsSongEnds) {
     EXPECT_EQ(world.form.List2.count(), 1U) << "not served this time";
 }
 
+TEST_F(End, NextInTheQueueDuringTheResetSkipsNothing) {
+    world.settings().Mode = PlayMode::Queue;
+    world.form.Command19.set_visible(true);
+    world.program.CurrentSongName = world.program.CurrentSongPath = world.path("A.mid");
+    world.engine->player.PlayFile();
+    for (const char* song : {"C.wav", "B.mid"}) world.form.List2.add({world.path(song), {}});
+    world.pump.on_pump = [&] {
+        if (world.program.SwitchingSong) world.form.Command19.click();
+    };
+    finish_song();
+    EXPECT_EQ(world.played(), (Log{"A.mid", "C.wav"}));
+    EXPECT_EQ(world.form.List2.count(), 1U);
+}
+
+TEST_F(End, ASongStartedFromElsewhereDuringTheResetPlaysOn) {
+    for (const std::int32_t mode : {PlayMode::Manual, PlayMode::Queue}) {
+        world.open_folder();
+        world.click("A.mid");
+        world.settings().Mode = mode;
+        int pumps = 0;
+        world.pump.on_pump = [&] {
+            if (++pumps == 4) world.engine->player.restart();  // the last one of the reset
+        };
+        finish_song();
+        world.pump.on_pump = nullptr;
+        EXPECT_EQ(world.device.Mode(), DeviceMode::playing);
+        world.expect_title_tells_the_truth();
+    }
+}
+
 TEST_F(End, TheFiveLastSongsAreKeptAndShownNewestFirst) {
     World many{"A.mid", "B.mid", "C.mid", "D.mid", "E.mid", "F.mid", "G.mid"};
     many.start(PlayMode::Alpha);

@@ -129,6 +129,39 @@ TEST_F(Start, TheResetKeyResetsEvenWhereSongsAreNot) {
     EXPECT_EQ(world.happened(), Log{});
 }
 
+TEST_F(Start, WhatTheUserTouchesDuringTheResetNeitherSkipsNorRepeatsASong) {
+    const Log usual = {"open gs_reset.aut", "play gs_reset.aut", "close gs_reset.aut", "open A.mid",
+                       "play A.mid"};
+    const std::vector<std::function<void()>> touches = {
+        [this] { world.form.text2.type("b"); },
+        [this] { world.form.SSCommand1.click(); },
+        [this] { world.form.Command9.click(); },
+        [this] { world.form.Command6.click(); },
+    };
+    for (const auto& touch : touches) {
+        world.form.File1.set_items({});
+        world.device.StopAndClose();
+        world.happened();
+        world.pump.on_pump = [&] {
+            if (world.program.SwitchingSong) touch();
+        };
+        world.start(PlayMode::Alpha);
+        world.pump.on_pump = nullptr;
+        EXPECT_EQ(world.happened(), usual);
+        world.engine->between.EnableControls(Reselect::no);
+    }
+}
+
+TEST_F(Start, ASongStartedFromElsewhereDuringTheResetIsNotStartedTwice) {
+    int pumps = 0;
+    world.pump.on_pump = [&] {
+        if (++pumps == 4) world.engine->player.PlayFile();  // the last one of the reset
+    };
+    world.start(PlayMode::Alpha);
+    EXPECT_EQ(world.played(), Log{"A.mid"});
+    EXPECT_EQ(world.form.title(), "Zephyne - Playing A.mid");
+}
+
 TEST_F(Start, ASongThatDoesNotPlayIsReportedAndNothingElseIsTried) {
     const auto vanish = [&] { world.files.vanish(world.path("B.mid")); };
     const auto damage = [&] { world.midi.broken = {"B.mid"}; };

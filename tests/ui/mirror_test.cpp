@@ -86,17 +86,24 @@ struct SampleForm : Form {
     Log log;
 };
 
-class MirrorTest : public testing::Test {
-  protected:
-    static void SetUpTestSuite() {
+// Widgets need an application; another test file may have made it already.
+class Application : public testing::Environment {
+    void SetUp() override {
         if (QCoreApplication::instance()) return;
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
         static int argc = 1;
         static char name[] = "mirror_test";
         static char* argv[] = {name, nullptr};
-        static const auto application = std::make_unique<QApplication>(argc, argv);
+        application_ = std::make_unique<QApplication>(argc, argv);
     }
+    void TearDown() override { application_.reset(); }
 
+    std::unique_ptr<QApplication> application_;
+};
+[[maybe_unused]] const auto* const application = testing::AddGlobalTestEnvironment(new Application);
+
+class MirrorTest : public testing::Test {
+  protected:
     void SetUp() override {
         form.list.set_items({{"one", ""}, {"t\xff\xff", ""}, {"three", ""}});
         host.create(form);
