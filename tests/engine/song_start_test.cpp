@@ -133,7 +133,7 @@ TEST_F(Start, WhatTheUserTouchesDuringTheResetNeitherSkipsNorRepeatsASong) {
     const Log usual = {"open gs_reset.aut", "play gs_reset.aut", "close gs_reset.aut", "open A.mid",
                        "play A.mid"};
     const std::vector<std::function<void()>> touches = {
-        [this] { world.form.text2.type("b"); },
+        [this] { world.form.text2.type(world.form.text2.text() == "b" ? "a" : "b"); },
         [this] { world.form.SSCommand1.click(); },
         [this] { world.form.Command9.click(); },
         [this] { world.form.Command6.click(); },
