@@ -47,11 +47,6 @@ void find_and_enter(World& world) {
     world.form.text2.press_key(13);
 }
 
-void start_paused(World& world) {
-    world.start(PlayMode::Alpha);
-    world.form.MMControl1.press(TransportKey::pause);
-}
-
 void click_row(World& world, std::size_t row) {
     world.form.File1.click(std::min(row, world.form.File1.count() - 1));
 }
@@ -151,12 +146,10 @@ const std::vector<Scenario>& scenarios() {
         {"next in the queue", start_queue, [](World& w) { w.form.Command19.click(); }},
         {"play key",
          [](World& w) {
-             start_paused(w);
+             w.start(PlayMode::Alpha);
              w.form.MMControl1.press(TransportKey::stop);
          },
          press(TransportKey::play)},
-        {"pause key", start_in(PlayMode::Alpha), press(TransportKey::pause)},
-        {"resume", start_paused, press(TransportKey::pause)},
         {"stop key", start_in(PlayMode::Alpha), press(TransportKey::stop)},
         {"stop key on a wave song",
          [](World& w) {
