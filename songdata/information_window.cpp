@@ -18,7 +18,7 @@ ShownText& text_of(CategoryTexts& texts, TextCategory category) {
     return texts[static_cast<std::size_t>(category) - 1];
 }
 
-// The part of a Soft Karaoke file that holds its header lines and syllables.
+// The section of a Soft Karaoke file that holds its header lines and syllables.
 struct KaraokePart {
     std::size_t begin = 0;
     std::size_t end = 0;

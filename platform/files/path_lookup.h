@@ -13,7 +13,7 @@ namespace zephyne {
 // folder, so try the path itself first.
 FileResult<std::string> find_in_any_case(const std::string& path);
 
-// The path made absolute, without "." and "..", empty parts and a separator at its end. The part
+// The path made absolute, without "." and "..", empty parts and a separator at its end. The piece
 // before a ".." must exist: behind a link, that is another folder than the one written before it.
 FileResult<std::string> normalised(const std::string& path);
 

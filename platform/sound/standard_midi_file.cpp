@@ -146,7 +146,7 @@ class ChunkReader {
     std::size_t at_;  // where the next chunk begins
 };
 
-// The part of the bytes that is the MIDI file itself: from its header to the end of the RIFF chunk
+// Those of the bytes that are the MIDI file itself: from its header to the end of the RIFF chunk
 // around it, if there is one.
 MidiBytes without_wrapper(MidiBytes bytes) {
     const std::size_t header = find_name(bytes, 0, "MThd");

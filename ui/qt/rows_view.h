@@ -1,4 +1,4 @@
-// A list of rows to look at and to choose from: the part that all our lists have in common.
+// A list of rows to look at and to choose from: what all our lists have in common.
 #pragma once
 
 #include "ui/qt/paint/lists.h"

@@ -27,7 +27,7 @@ enum class ScrollBar { Hidden, Shown };
 
 int row_height(const Scale& scale, ListKind kind);
 
-// The part of a list's box where rows go; it leaves out the scroll bar if that is shown. The
+// The area of a list's box where rows go; it leaves out the scroll bar if that is shown. The
 // first row starts at its top.
 QRect rows_area(const Scale& scale, const QRect& box, ListKind kind, ScrollBar scroll_bar);
 
