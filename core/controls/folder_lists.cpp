@@ -1,5 +1,6 @@
 #include "core/controls/folder_lists.h"
 
+#include "core/text/key_sort.h"
 #include "core/text/letter_case.h"
 
 #include <algorithm>
@@ -116,13 +117,15 @@ void DirList::build_rows(std::vector<std::string> folders) {
     }
     current_row_ = selected_ = rows_.size() - 1;
 
-    std::sort(folders.begin(), folders.end(), [](const std::string& a, const std::string& b) {
-        return collation_key(a) < collation_key(b);
-    });
+    KeySort sort(folders.size());
+    for (const std::string& folder : folders) {
+        append_collation_key(sort.bytes(), folder);
+        sort.close_key();
+    }
     const int depth = static_cast<int>(rows_.size());
-    for (std::string& folder : folders) {
-        std::string path = joined(path_, folder, style);
-        rows_.push_back({std::move(folder), std::move(path), depth});
+    for (const std::uint32_t index : sort.order()) {
+        std::string path = joined(path_, folders[index], style);
+        rows_.push_back({std::move(folders[index]), std::move(path), depth});
     }
     changed(Property::items);
 }

@@ -116,8 +116,4 @@ std::string collation_key(std::string_view text) {
     return key;
 }
 
-std::string collation_key(std::string_view name, std::string_view folder) {
-    return collation_key(name) + '\0' + collation_key(folder);
-}
-
 }  // namespace zephyne

@@ -20,11 +20,10 @@ bool equal_ignoring_case(std::string_view a, std::string_view b);
 bool starts_with_ignoring_case(std::string_view text, std::string_view prefix);
 
 // Byte order of these keys is the order of lists: without regard to case first, then by bytes, so
-// that no two different texts are equal. An entry line ("name|folder") is ordered by its name and
-// then by its folder; pass its two parts. Keys are meant to be made once per item and sort.
+// that no two different texts are equal. Keys are meant to be made once per item and sort; KeySort
+// takes them appended one behind the other.
 std::string collation_key(std::string_view text);
 void append_collation_key(std::string& key, std::string_view text);
-std::string collation_key(std::string_view name, std::string_view folder);
 
 // What the keys of all texts begin with that begin with this one, in whatever letter case.
 std::string collation_prefix(std::string_view text);
