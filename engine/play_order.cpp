@@ -73,12 +73,12 @@ void PlayOrder::drop(const std::string& real_name) {
     }
 }
 
-void PlayOrder::rename(const std::string& real_name, ListItem renamed) {
+void PlayOrder::rename(const std::string& real_name, const ListItem& renamed) {
     ListBox& remaining = stage_.form.List1;
     const std::size_t before = remaining.count();
     drop(real_name);
     if (remaining.count() == before) return;
-    const std::size_t row = remaining.add(std::move(renamed));
+    const std::size_t row = remaining.add(renamed);
     if (static_cast<std::int32_t>(row) < stage_.program.OrderIndex) ++stage_.program.OrderIndex;
 }
 
