@@ -177,6 +177,7 @@ void ListBox::move_to(std::size_t index, ClickWith key) {
 }
 
 void ListBox::double_click(std::size_t index) {
+    if (selecting_ == Selecting::simple) return click(index);
     if (takes_user(index) && on_double_click) on_double_click();
 }
 

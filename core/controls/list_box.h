@@ -93,7 +93,7 @@ class ListBox final : public Control {
     // Ctrl held, and a simple list, where only the keyboard moves.
     void move_to(std::size_t index, ClickWith key = ClickWith::nothing);
 
-    // The user clicked a selected row twice, or pressed Enter on it.
+    // The user clicked a row twice, or pressed Enter on it. In a simple list that is one more click.
     void double_click(std::size_t index);
     std::function<void()> on_double_click;
 
