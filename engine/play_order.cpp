@@ -62,8 +62,18 @@ void PlayOrder::refill_without(std::size_t song) {
         runs_backwards(stage_.settings()) ? static_cast<std::int32_t>(f.List1.count()) - 1 : 0;
 }
 
-void PlayOrder::show_counters() {
+void PlayOrder::begin_with_new_list() {
+    if (stage_.settings().Mode >= PlayMode::Manual) return;
+    stage_.events.pump();
+    RefillAndPlayNext();
+}
+
+void PlayOrder::show_total() {
     stage_.form.Label2.set_caption(count_text(stage_.form.File1));
+}
+
+void PlayOrder::show_counters() {
+    show_total();
     show_remaining();
 }
 
