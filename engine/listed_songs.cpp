@@ -3,7 +3,7 @@
 #include "core/paths.h"
 #include "core/text/letter_case.h"
 
-#include <utility>
+#include <string_view>
 
 namespace zephyne {
 namespace {
@@ -23,18 +23,14 @@ bool is_listed(SongKind kind, const Settings& settings) {
 
 }  // namespace
 
-std::vector<ListItem> listed_songs(std::vector<std::string> names, const Settings& settings) {
+ListRows listed_songs(const std::vector<std::string>& names, const Settings& settings) {
     const bool lower = settings.Lowercase == 1;
-    std::vector<ListItem> songs;
+    ListRows songs;
     songs.reserve(names.size());
-    for (std::string& name : names) {
+    for (const std::string& name : names) {
         if (!is_listed(song_kind(name), settings)) continue;
-        std::string shown = lower ? capitalised(name) : name;
-        if (shown == name) {
-            songs.push_back({std::move(shown), {}});
-        } else {
-            songs.push_back({std::move(shown), std::move(name)});
-        }
+        const std::string shown = lower ? capitalised(name) : name;
+        songs.append({shown, shown == name ? std::string_view() : name});
     }
     return songs;
 }

@@ -71,6 +71,12 @@ TEST(EntryLine, IsRefusedWhereItWouldNotReadBack) {
     }
 }
 
+Log texts(const ListBox& list) {
+    Log all;
+    for (const ListRow& row : list.items()) all.emplace_back(row.text);
+    return all;
+}
+
 // Entries of names and folders that are hard on separators, order and encoding.
 TEST(PlaylistText, EveryEntryThatCanBeAddedComesBackAndStaysInStep) {
     std::mt19937 random(1998);
@@ -105,9 +111,7 @@ TEST(PlaylistText, EveryEntryThatCanBeAddedComesBackAndStaysInStep) {
         ASSERT_TRUE(lists.in_step());
         const auto again = read_playlist_text(playlist_text_of(lines.items()), PathStyle::posix);
         ASSERT_EQ(again.state, PlaylistState::complete);
-        std::vector<ListItem> items;
-        for (const std::string& line : again.entry_lines) items.push_back({line, {}});
-        ASSERT_EQ(items, lines.items());
+        ASSERT_EQ(again.entry_lines, texts(lines));
 
         lists.Killdupes();
         ASSERT_TRUE(lists.in_step());
@@ -119,14 +123,12 @@ TEST(PlaylistText, EveryEntryThatCanBeAddedComesBackAndStaysInStep) {
             if (random() % 2 == 0) {
                 names.click(row, ClickWith::ctrl);
             } else {
-                kept.push_back(lines.item(row).text);
+                kept.emplace_back(lines.item(row).text);
             }
         }
         lists.remove_selected();
         ASSERT_TRUE(lists.in_step());
-        Log left;
-        for (const ListItem& line : lines.items()) left.push_back(line.text);
-        ASSERT_EQ(left, kept);
+        ASSERT_EQ(texts(lines), kept);
     }
     EXPECT_GT(refused, 100U) << "the names are too easy";
 }
