@@ -159,7 +159,7 @@ void Presets::use(std::size_t index) {
     program.SwitchingSong = true;
     const std::string folder = f.Dir1.path();
     const std::size_t drive = f.Drive1.selected();
-    const std::string selected = f.File1.selected() ? f.File1.item(*f.File1.selected()).text : "";
+    const std::string selected(f.File1.selected() ? f.File1.item(*f.File1.selected()).text : "");
     if (!go_to_folder(index)) return path_not_found(index, folder, drive, selected);
 
     const bool moved = f.Dir1.path() != folder;

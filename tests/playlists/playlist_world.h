@@ -18,6 +18,8 @@ class PlaylistWorld : public World {
     explicit PlaylistWorld(PathStyle style = PathStyle::posix)
         : World({"a.mid", "b.mid", "c.rmi", "d.wav", "notes.txt"}, style) {
         settings().Playlist = 1;
+        form.Command13.set_visible(true);
+        form.Command20.set_visible(true);
         settings().Mode = PlayMode::Manual;
         settings().Lowercase = 0;
         settings().AllowWav = 1;
@@ -35,7 +37,7 @@ class PlaylistWorld : public World {
     SimulatedBackend audition{"audition: ", clock, scheduler, log};
     SimulatedBackend audition_wave{"audition wave: ", clock, scheduler, log};
     PlaylistFile file{stage, dialogs};
-    OpenPlaylist open_playlist{stage, engine->order, file};
+    OpenPlaylist opening{stage, engine->order, file};
     PlaylistEditor playlist_editor{
         stage, *engine, scheduler, windows, file, {audition, audition_wave, audition_wave}};
     Form9* editor = nullptr;
