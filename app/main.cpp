@@ -20,6 +20,9 @@
 #include "platform/sound/synthesizer_engine.h"
 #include "platform/sound/synthesizer_volume.h"
 #include "platform/video/mpv_backend.h"
+#include "playlists/open_playlist.h"
+#include "playlists/playlist_editor.h"
+#include "playlists/playlist_file.h"
 #include "shell/input_box.h"
 #include "shell/message_box.h"
 #include "songdata/file_commands.h"
@@ -32,6 +35,7 @@
 #include "songdata/volume_control.h"
 #include "ui/main_window_layout.h"
 #include "ui/qt/pixels.h"
+#include "ui/qt/qt_file_dialogs.h"
 #include "ui/qt/qt_window_host.h"
 #include "ui/shut_down.h"
 #include "ui/start_up.h"
@@ -85,6 +89,13 @@ class Zephyne {
           move_file_(stage_, engine_, windows_),
           presets_(stage_, engine_),
           view_presets_(stage_, windows_),
+          audition_sequencer_(scheduler, synthesizer_),
+          audition_wave_(scheduler, environment("ZEPHYNE_AUDIO")),
+          audition_video_(scheduler, environment("ZEPHYNE_AUDIO")),
+          playlist_file_(stage_, file_dialogs_),
+          open_playlist_(stage_, engine_.order, playlist_file_),
+          playlist_editor_(stage_, engine_, scheduler, windows_, playlist_file_,
+                           {audition_sequencer_, audition_wave_, audition_video_}),
           layout_(stage_, windows_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
           shut_down_(stage_, engine_) {
@@ -111,6 +122,7 @@ class Zephyne {
     TrayForm tray_;
     QtEventPump pump_;
     QtWindowHost windows_{user_scale_factor()};
+    QtFileDialogs file_dialogs_{user_scale_factor()};
     DesktopBeeper beeper_;
     MersenneRandom random_;
     MessageBox messages_;
@@ -132,6 +144,12 @@ class Zephyne {
     MoveFile move_file_;
     Presets presets_;
     ViewPresets view_presets_;
+    SequencerBackend audition_sequencer_;
+    MpvBackend audition_wave_;
+    MpvBackend audition_video_;
+    PlaylistFile playlist_file_;
+    OpenPlaylist open_playlist_;
+    PlaylistEditor playlist_editor_;
     MainWindowLayout layout_;
     StartUp start_up_;
     ShutDown shut_down_;
