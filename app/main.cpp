@@ -1,5 +1,6 @@
 // Builds the ports, builds the program on them, and runs it.
 #include <QApplication>
+#include <QIcon>
 #include <QSessionManager>
 #include <QTimer>
 
@@ -31,6 +32,7 @@
 #include "songdata/information_window.h"
 #include "songdata/song_summary.h"
 #include "ui/main_window_layout.h"
+#include "ui/qt/pictures.h"
 #include "ui/qt/pixels.h"
 #include "ui/qt/qt_window_host.h"
 #include "ui/shut_down.h"
@@ -127,6 +129,7 @@ int main(int argc, char** argv) {
     const SteadyClock clock;
     Scheduler scheduler(clock);
     LocalHandOver hand_over(scheduler);
+    if (give_way(hand_over, line)) return 0;
     PosixFileSystem file_system;
     Zephyne zephyne(file_system, scheduler, hand_over);
 
@@ -138,5 +141,8 @@ int main(int argc, char** argv) {
     QTimer::singleShot(0, &application, [&] {
         if (zephyne.start(line) == Started::ended) QCoreApplication::exit(0);
     });
+    // After the window, which need not wait until its icon is drawn in all sizes.
+    QTimer::singleShot(0, &application,
+                       [] { QApplication::setWindowIcon(pictures::application_icon()); });
     return QApplication::exec();
 }
