@@ -34,6 +34,7 @@
 #include "songdata/view_presets.h"
 #include "songdata/volume_control.h"
 #include "ui/main_window_layout.h"
+#include "ui/qt/pictures.h"
 #include "ui/qt/pixels.h"
 #include "ui/qt/qt_file_dialogs.h"
 #include "ui/qt/qt_window_host.h"
@@ -41,6 +42,7 @@
 #include "ui/start_up.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QSessionManager>
 #include <QTimer>
 #include <clocale>
@@ -174,6 +176,7 @@ int main(int argc, char** argv) {
     const SteadyClock clock;
     Scheduler scheduler(clock);
     LocalHandOver hand_over(scheduler);
+    if (give_way(hand_over, line)) return 0;
     PosixFileSystem file_system;
     Zephyne zephyne(file_system, scheduler, hand_over);
 
@@ -185,5 +188,8 @@ int main(int argc, char** argv) {
     QTimer::singleShot(0, &application, [&] {
         if (zephyne.start(line) == Started::ended) QCoreApplication::exit(0);
     });
+    // After the window, which need not wait until its icon is drawn in all sizes.
+    QTimer::singleShot(0, &application,
+                       [] { QApplication::setWindowIcon(pictures::application_icon()); });
     return QApplication::exec();
 }
