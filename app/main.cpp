@@ -20,6 +20,7 @@
 #include "platform/desktop/mersenne_random.h"
 #include "platform/desktop/program_start.h"
 #include "platform/desktop/qt_event_pump.h"
+#include "platform/desktop/qt_notification_area.h"
 #include "platform/desktop/signal_watcher.h"
 #include "platform/desktop/steady_clock.h"
 #include "platform/files/posix_file_system.h"
@@ -28,10 +29,13 @@
 #include "platform/sound/synthesizer_engine.h"
 #include "platform/video/mpv_backend.h"
 #include "shell/message_box.h"
+#include "shell/tray_menu.h"
 #include "songdata/information_window.h"
 #include "songdata/song_summary.h"
 #include "ui/main_window_layout.h"
+#include "ui/qt/pictures.h"
 #include "ui/qt/pixels.h"
+#include "ui/qt/popup_look.h"
 #include "ui/qt/qt_window_host.h"
 #include "ui/shut_down.h"
 #include "ui/start_up.h"
@@ -56,7 +60,7 @@ std::string environment(const char* name) {
 class Zephyne {
   public:
     Zephyne(PosixFileSystem& files, Scheduler& scheduler, LocalHandOver& hand_over)
-        : files_(files), form_(files_, scheduler), pump_(scheduler),
+        : files_(files), form_(files_, scheduler), tray_(scheduler), pump_(scheduler),
           messages_(program_, scheduler, windows_, beeper_),
           synthesizer_(scheduler, {.sound_font = environment("ZEPHYNE_SOUNDFONT")},
                        make_audio_output(environment("ZEPHYNE_AUDIO"))),
@@ -69,6 +73,7 @@ class Zephyne {
           engine_(stage_),
           summary_(stage_),
           information_(stage_, windows_),
+          tray_menu_(stage_, engine_, windows_, notification_area_),
           layout_(stage_, windows_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
           shut_down_(stage_, engine_) {
@@ -77,6 +82,9 @@ class Zephyne {
         synthesizer_.on_problem = [this](const std::string& sentence) {
             messages_.ShowDlgMessage(sentence, 0, "Zephyne");
         };
+        tray_menu_.put_away = [this] { layout_.put_away(); };
+        start_up_.load_tray = [this] { tray_menu_.load(); };
+        shut_down_.unload_tray = [this] { tray_menu_.unload(); };
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
 
@@ -90,7 +98,9 @@ class Zephyne {
     Form1 form_;
     TrayForm tray_;
     QtEventPump pump_;
-    QtWindowHost windows_{user_scale_factor()};
+    QtWindowHost windows_{user_scale_factor(), [this] { return tray_menu_.reachable(); }};
+    QtNotificationArea notification_area_{pictures::tray_icon(),
+                                          popup_look::menu(user_scale_factor())};
     DesktopBeeper beeper_;
     MersenneRandom random_;
     MessageBox messages_;
@@ -103,6 +113,7 @@ class Zephyne {
     Engine engine_;
     SongSummary summary_;
     InformationWindow information_;
+    TrayMenu tray_menu_;
     MainWindowLayout layout_;
     StartUp start_up_;
     ShutDown shut_down_;

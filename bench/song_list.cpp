@@ -73,7 +73,7 @@ void list_songs(benchmark::State& state) {
     test::SimulatedBackend backend("", clock, scheduler, log);
     MediaDevice device(scheduler, files, form.MMControl1, {backend, backend, backend});
     Program program;
-    TrayForm tray;
+    TrayForm tray{scheduler};
     test::ScriptedMessages messages(log);
     test::LoggedBeeper beeper(log);
     test::ScriptedRandom random;

@@ -1,6 +1,7 @@
 // Hand-made stand-ins for the machine and the desktop. Each writes down what it was asked for.
 #pragma once
 
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
@@ -69,11 +70,13 @@ class FakeWindows final : public WindowHost {
     std::map<std::string, std::int32_t> styles;
     Log raised;
     int height_of_text = 0;
+    std::vector<Form*> open;  // in the order in which their windows were made
+    Form* active = nullptr;
     std::function<void(Form&)> on_modal;
 
     int text_height(const Label&) const override { return height_of_text; }
-    void create(Form&) override {}
-    void destroy(Form&) override {}
+    void create(Form& form) override { open.push_back(&form); }
+    void destroy(Form& form) override { std::erase(open, &form); }
     void run_modal(Form& form) override {
         form.set_visible(true);
         form.user_activated();
@@ -88,6 +91,12 @@ class FakeWindows final : public WindowHost {
         styles[form.name()] = style;
     }
     void bring_to_front(Form& form) override { raised.push_back(form.name()); }
+    Form* find(std::string_view form_name) const override {
+        const auto found = std::find_if(open.begin(), open.end(),
+                                        [&](Form* form) { return form->name() == form_name; });
+        return found == open.end() ? nullptr : *found;
+    }
+    Form* active_form() const override { return active; }
     bool reachable_when_hidden() const override { return has_icon; }
 };
 
