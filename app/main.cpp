@@ -16,6 +16,7 @@
 #include "engine/media_device.h"
 #include "engine/stage.h"
 #include "platform/desktop/desktop_beeper.h"
+#include "platform/desktop/desktop_clipboard.h"
 #include "platform/desktop/local_hand_over.h"
 #include "platform/desktop/mersenne_random.h"
 #include "platform/desktop/program_start.h"
@@ -29,6 +30,8 @@
 #include "platform/sound/synthesizer_engine.h"
 #include "platform/video/mpv_backend.h"
 #include "shell/message_box.h"
+#include "shell/profile_strings.h"
+#include "shell/quick_tips.h"
 #include "shell/tray_menu.h"
 #include "songdata/information_window.h"
 #include "songdata/song_summary.h"
@@ -61,7 +64,7 @@ class Zephyne {
   public:
     Zephyne(PosixFileSystem& files, Scheduler& scheduler, LocalHandOver& hand_over)
         : files_(files), form_(files_, scheduler), tray_(scheduler), pump_(scheduler),
-          messages_(program_, scheduler, windows_, beeper_),
+          profiles_(files_), messages_(program_, scheduler, windows_, beeper_),
           synthesizer_(scheduler, {.sound_font = environment("ZEPHYNE_SOUNDFONT")},
                        make_audio_output(environment("ZEPHYNE_AUDIO"))),
           sequencer_(scheduler, synthesizer_),
@@ -74,16 +77,21 @@ class Zephyne {
           summary_(stage_),
           information_(stage_, windows_),
           tray_menu_(stage_, engine_, windows_, notification_area_),
+          quick_tips_(stage_, windows_, profiles_, clipboard_),
           layout_(stage_, windows_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
           shut_down_(stage_, engine_) {
         program_.folders = program_folders(files_, start_surroundings());
         windows_.create(form_);
+        popup_look::dress_tooltips(user_scale_factor());
         synthesizer_.on_problem = [this](const std::string& sentence) {
             messages_.ShowDlgMessage(sentence, 0, "Zephyne");
         };
         tray_menu_.put_away = [this] { layout_.put_away(); };
         start_up_.load_tray = [this] { tray_menu_.load(); };
+        start_up_.show_quick_tip = [this] {
+            if (quick_tips_.tips_at_start()) quick_tips_.show();
+        };
         shut_down_.unload_tray = [this] { tray_menu_.unload(); };
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
@@ -102,7 +110,9 @@ class Zephyne {
     QtNotificationArea notification_area_{pictures::tray_icon(),
                                           popup_look::menu(user_scale_factor())};
     DesktopBeeper beeper_;
+    DesktopClipboard clipboard_;
     MersenneRandom random_;
+    ProfileStrings profiles_;
     MessageBox messages_;
     SynthesizerEngine synthesizer_;
     SequencerBackend sequencer_;
@@ -114,6 +124,7 @@ class Zephyne {
     SongSummary summary_;
     InformationWindow information_;
     TrayMenu tray_menu_;
+    QuickTips quick_tips_;
     MainWindowLayout layout_;
     StartUp start_up_;
     ShutDown shut_down_;

@@ -112,7 +112,7 @@ std::string TrayMenu::tooltip() const {
         case DeviceMode::playing:
             return "Zephyne - Playing " + stage_.program.CurrentSongName + place_in_round();
         case DeviceMode::paused:
-            return "Zephyne - Paused";
+            return player_.song_waits() ? "Zephyne - Stopped" : "Zephyne - Paused";
         default:
             return "Zephyne - Stopped";
     }

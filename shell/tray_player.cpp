@@ -22,13 +22,19 @@ void TrayPlayer::show_state() {
     MenuItem& pause = stage_.tray.mnuPause;
     MenuItem& stop = stage_.tray.mnuStop;
     const DeviceMode mode = stage_.device.Mode();
-    const bool paused = mode == DeviceMode::paused;
     const bool playing = mode == DeviceMode::playing;
-    const bool waiting = mode == DeviceMode::stopped;
+    const bool paused = mode == DeviceMode::paused && stage_.program.PausedByUser;
+    const bool waiting = stage_.device.is_open() && !playing && !paused;
     pause.caption = paused ? "Play" : "Pause";
     pause.enabled = playing || paused;
     stop.caption = waiting ? "Play" : "Stop";
     stop.enabled = playing || waiting;
+}
+
+bool TrayPlayer::song_waits() const {
+    const DeviceMode mode = stage_.device.Mode();
+    return mode == DeviceMode::stopped ||
+           (mode == DeviceMode::paused && stage_.tray.mnuStop.caption == "Play");
 }
 
 // In Queue mode the queue's own key knows what is next; else it is what the key "Next" does.
@@ -48,14 +54,8 @@ void TrayPlayer::mnuPause_Click() {
 
 void TrayPlayer::mnuStop_Click() {
     if (stage_.program.SwitchingSong) return;
-    switch (stage_.device.Mode()) {
-        case DeviceMode::playing:
-            return stop();
-        case DeviceMode::stopped:
-            return play();
-        default:
-            return;
-    }
+    if (stage_.device.Mode() == DeviceMode::playing) return stop();
+    if (song_waits()) play();
 }
 
 void TrayPlayer::stop() {

@@ -14,6 +14,10 @@ class TrayPlayer {
     // Sets "Pause" and "Stop" to what the device does, for a menu that is new.
     void show_state();
 
+    // Whether a song is open and waits at its start. The device holds it there as if it were
+    // paused; the entry that reads "Play" tells the two apart.
+    bool song_waits() const;
+
   private:
     void mnuNext_Click();
     void mnuPause_Click();  // pauses, or goes on

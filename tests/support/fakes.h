@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/controls/form.h"
+#include "core/ports/notification_area.h"
 #include "core/ports/services.h"
 #include "core/ports/window_host.h"
 
@@ -61,6 +62,55 @@ class FakeHandOver final : public HandOver {
     bool another_copy_runs() override { return taken; }
     void bring_forward() override { sent.push_back("come forward"); }
     void poke(std::string_view text) override { sent.push_back("poke " + std::string(text)); }
+};
+
+class FakeClipboard final : public Clipboard {
+  public:
+    std::string text;
+    void set_text(const std::string& copied) override { text = copied; }
+};
+
+// A notification area whose host comes and goes as a test says. The user's act is
+// release(); what is chosen in the menu is clicked on the sheet.
+class FakeNotificationArea final : public NotificationArea {
+  public:
+    explicit FakeNotificationArea(Log& log) : log_(log) {}
+
+    bool host = true;
+    bool menu_open = false;
+    NotifyIconData icon;  // as the program told last
+
+    void notify_icon(NotifyCommand command, const NotifyIconData& data) override {
+        icon = data;
+        if (command == NotifyCommand::add) log_.push_back("icon added");
+        if (command == NotifyCommand::remove) log_.push_back("icon removed");
+    }
+    void set_menu(PopupMenu menu) override { menu_ = std::move(menu); }
+    void show_menu() override {
+        menu_open = true;
+        log_.push_back("menu");
+    }
+    bool has_host() const override { return host; }
+
+    void release(std::uint32_t mouse_message) { on_message(icon.uCallbackMessage, mouse_message); }
+
+    // What the menu shows, as "Pause, -, *Show*": separators, the default entry, "(off)".
+    std::string entries() const {
+        std::string text;
+        for (const MenuItem* item : menu_.items) {
+            if (!item->visible) continue;
+            if (!text.empty()) text += ", ";
+            const std::string caption =
+                item == menu_.default_item ? "*" + item->caption + "*" : item->caption;
+            text += item->kind == MenuItemKind::separator ? "-" : caption;
+            if (!item->enabled) text += " (off)";
+        }
+        return text;
+    }
+
+  private:
+    Log& log_;
+    PopupMenu menu_;
 };
 
 // A desktop without pictures. A modal form is handed to the test, which acts on it.
