@@ -84,7 +84,8 @@ void TrayMenu::Show(ShownBy by) {
         if (by == ShownBy::double_click) stage_.events.pump();
         if (Form* over = windows_.find(form_name(stage_.program.CurrentForm))) bring_forward(*over);
     }
-    if (Form* active = windows_.active_form()) bring_forward(*active);
+    // With the focus last, as nothing else takes input.
+    if (Form* modal = windows_.modal_form()) bring_forward(*modal);
 }
 
 void TrayMenu::Timer1_Timer() {

@@ -46,9 +46,8 @@ class WindowHost {
     // when there is none.
     virtual Form* find(std::string_view form_name) const = 0;
 
-    // The form that the user works in at present, a modal one before any other; null when it is
-    // none of ours.
-    virtual Form* active_form() const = 0;
+    // The modal form that alone takes input at present; null when there is none.
+    virtual Form* modal_form() const = 0;
 
     // True when the desktop shows our icon in its notification area, so that a window hidden
     // altogether can be reached again.

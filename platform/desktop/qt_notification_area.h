@@ -9,7 +9,7 @@
 
 namespace zephyne {
 
-class QtNotificationArea final : public NotificationArea {
+class QtNotificationArea final : public QObject, public NotificationArea {
   public:
     // menu_look: a style sheet for the menu. Needs a QApplication.
     QtNotificationArea(const QIcon& icon, const QString& menu_look);
@@ -19,7 +19,10 @@ class QtNotificationArea final : public NotificationArea {
     void show_menu() override { menu_.open_at_mouse(); }
     bool has_host() const override { return QSystemTrayIcon::isSystemTrayAvailable(); }
 
+    bool eventFilter(QObject* window, QEvent* event) override;
+
   private:
+    void watch_icon_window();
     void activated(QSystemTrayIcon::ActivationReason reason);
 
     QtPopupMenu menu_;

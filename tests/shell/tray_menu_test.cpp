@@ -115,12 +115,12 @@ TEST_F(Tray, ShowBringsTheWindowOverTheMainOneForwardToo) {
 
     // A box over it has closed and left the number of the main window.
     world.program.CurrentForm = FormNumber::Main;
-    windows.active = &options;
+    windows.modal = &options;
     world.tray.mnuActivate.click();
     EXPECT_EQ(windows.raised, (Log{"Form1", "Form2", "Form1", "Form2"}));
 
     // What it names may be gone by the time that events have run.
-    windows.active = nullptr;
+    windows.modal = nullptr;
     world.pump.on_pump = [&] { windows.destroy(options); };
     world.program.CurrentForm = FormNumber::Options;
     world.tray.mnuActivate.click();

@@ -121,7 +121,7 @@ class FakeWindows final : public WindowHost {
     Log raised;
     int height_of_text = 0;
     std::vector<Form*> open;  // in the order in which their windows were made
-    Form* active = nullptr;
+    Form* modal = nullptr;
     std::function<void(Form&)> on_modal;
 
     int text_height(const Label&) const override { return height_of_text; }
@@ -146,7 +146,7 @@ class FakeWindows final : public WindowHost {
                                         [&](Form* form) { return form->name() == form_name; });
         return found == open.end() ? nullptr : *found;
     }
-    Form* active_form() const override { return active; }
+    Form* modal_form() const override { return modal; }
     bool reachable_when_hidden() const override { return has_icon; }
 };
 

@@ -82,9 +82,8 @@ Form* QtWindowHost::find(std::string_view form_name) const {
     return found;
 }
 
-Form* QtWindowHost::active_form() const {
-    QWidget* modal = QApplication::activeModalWidget();
-    const auto* window = dynamic_cast<FormWindow*>(modal ? modal : QApplication::activeWindow());
+Form* QtWindowHost::modal_form() const {
+    const auto* window = dynamic_cast<FormWindow*>(QApplication::activeModalWidget());
     return window ? &window->form() : nullptr;
 }
 

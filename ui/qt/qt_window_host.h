@@ -27,7 +27,7 @@ class QtWindowHost final : public WindowHost {
     void set_extended_style(Form& form, std::int32_t style) override;
     void bring_to_front(Form& form) override;
     Form* find(std::string_view form_name) const override;
-    Form* active_form() const override;
+    Form* modal_form() const override;
     bool reachable_when_hidden() const override;
 
     // The window of a form; null when it has none.
