@@ -1,13 +1,4 @@
 // Builds the ports, builds the program on them, and runs it.
-#include <QApplication>
-#include <QSessionManager>
-#include <QTimer>
-
-#include <clocale>
-#include <cstdio>
-#include <cstdlib>
-#include <string>
-
 #include "core/program.h"
 #include "core/scheduler.h"
 #include "core/sheets/form1.h"
@@ -43,6 +34,14 @@
 #include "ui/shut_down.h"
 #include "ui/start_up.h"
 
+#include <QApplication>
+#include <QSessionManager>
+#include <QTimer>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
 namespace {
 
 using namespace zephyne;
@@ -63,16 +62,19 @@ std::string environment(const char* name) {
 class Zephyne {
   public:
     Zephyne(PosixFileSystem& files, Scheduler& scheduler, LocalHandOver& hand_over)
-        : files_(files), form_(files_, scheduler), tray_(scheduler), pump_(scheduler),
-          profiles_(files_), messages_(program_, scheduler, windows_, beeper_),
+        : files_(files),
+          form_(files_, scheduler),
+          tray_(scheduler),
+          pump_(scheduler),
+          profiles_(files_),
+          messages_(program_, scheduler, windows_, beeper_),
           synthesizer_(scheduler, {.sound_font = environment("ZEPHYNE_SOUNDFONT")},
                        make_audio_output(environment("ZEPHYNE_AUDIO"))),
           sequencer_(scheduler, synthesizer_),
           wave_(scheduler, environment("ZEPHYNE_AUDIO")),
           video_(scheduler, environment("ZEPHYNE_AUDIO")),
           device_(scheduler, files_, form_.MMControl1, {sequencer_, wave_, video_}),
-          stage_{program_, form_,     tray_,   device_, files_,
-                 pump_,    messages_, beeper_, random_},
+          stage_{program_, form_, tray_, device_, files_, pump_, messages_, beeper_, random_},
           engine_(stage_),
           summary_(stage_),
           information_(stage_, windows_),

@@ -28,8 +28,7 @@ std::string key_text(double number) {
 
 }  // namespace
 
-QuickTips::QuickTips(Stage& stage, WindowHost& windows, ProfileFile& profiles,
-                     Clipboard& clipboard)
+QuickTips::QuickTips(Stage& stage, WindowHost& windows, ProfileFile& profiles, Clipboard& clipboard)
     : stage_(stage), windows_(windows), profiles_(profiles), clipboard_(clipboard) {
     stage_.form.Command21.set_on_click([this] { show(); });
 }

@@ -9,7 +9,11 @@ namespace zephyne {
 
 TrayMenu::TrayMenu(Stage& stage, Engine& engine, WindowHost& windows, NotificationArea& area)
     : put_away([this] { stage_.form.set_visible(false); }),
-      stage_(stage), windows_(windows), area_(area), player_(stage, engine), songs_(stage, engine) {
+      stage_(stage),
+      windows_(windows),
+      area_(area),
+      player_(stage, engine),
+      songs_(stage, engine) {
     TrayForm& tray = stage_.tray;
     tray.Timer1.on_tick = [this] { Timer1_Timer(); };
     tray.Timer2.on_tick = [this] { Timer2_Timer(); };

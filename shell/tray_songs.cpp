@@ -73,11 +73,11 @@ std::optional<std::size_t> TraySongs::row_of(const RecentSong& song) const {
         const auto& entry = f.File1.item(row);
         if (!equal_ignoring_case(entry.text, song.name)) continue;
         const bool same =
-            playlist ? row < f.List3.count() &&
-                           with_separator(
-                               std::string(split_entry_line(f.List3.item(row).text).second),
-                               style) == song.folder
-                     : entry.real() == song.name;
+            playlist
+                ? row < f.List3.count() &&
+                      with_separator(std::string(split_entry_line(f.List3.item(row).text).second),
+                                     style) == song.folder
+                : entry.real() == song.name;
         if (same) return row;
         if (!found) found = row;
     }

@@ -70,8 +70,8 @@ void Quick_Tip::make_room(int text_height) {
         button->set_top(below + kKeysBelow);
     }
     const Place& now = place();
-    set_place({now.left, now.top, now.width,
-               below + kEndBelow + kTitleBarHeight + kLowerFrameHeight});
+    set_place(
+        {now.left, now.top, now.width, below + kEndBelow + kTitleBarHeight + kLowerFrameHeight});
 }
 
 }  // namespace zephyne

@@ -44,10 +44,9 @@ struct TrayForm {
     MenuItem& mnuSong(int number) { return songs[static_cast<std::size_t>(number - 1)]; }
 
     PopupMenu mnuBar() {
-        return {{&mnuNext,  &mnuPause, &mnuStop,  &sep3,        &songs[0], &songs[1],
-                 &songs[2], &songs[3], &songs[4], &sep1,        &VolUp,    &VolDown,
-                 &sep5,     &mnuActivate, &mnuHide, &sep2,      &mnuAbout, &sep4,
-                 &mnuQuit},
+        return {{&mnuNext, &mnuPause, &mnuStop, &sep3, &songs[0], &songs[1], &songs[2], &songs[3],
+                 &songs[4], &sep1, &VolUp, &VolDown, &sep5, &mnuActivate, &mnuHide, &sep2,
+                 &mnuAbout, &sep4, &mnuQuit},
                 &mnuActivate};
     }
 };

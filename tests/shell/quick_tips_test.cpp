@@ -5,7 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <set>
 #include <string>
+#include <vector>
 
 namespace zephyne::test {
 namespace {
@@ -18,9 +23,7 @@ class Tips : public testing::Test {
     void SetUp() override { world.program.folders.installed = "/usr/share/zephyne"; }
 
     // The tip window that is open; null when none is.
-    Quick_Tip* window() const {
-        return dynamic_cast<Quick_Tip*>(windows.find("Quick_Tip"));
-    }
+    Quick_Tip* window() const { return dynamic_cast<Quick_Tip*>(windows.find("Quick_Tip")); }
     std::string open() {
         tips.show();
         return window()->tiplabel.caption();
@@ -59,6 +62,21 @@ TEST_F(Tips, NextGoesRoundAndPreviousStopsAtTheFirst) {
 
     tips.unload();
     EXPECT_EQ(open(), "two") << "each opening shows the next one";
+}
+
+TEST_F(Tips, OfTheProgramAreManyAndAllCanBeReached) {
+    std::ifstream stream(ZEPHYNE_DATA "/tips/QUICKTIP.INI", std::ios::binary);
+    const std::string supplied(std::istreambuf_iterator<char>(stream), {});
+    write(supplied);
+    EXPECT_TRUE(tips.tips_at_start());
+    std::set<std::string> seen;
+    for (std::string tip = open(); seen.insert(tip).second; tip = next()) {
+        EXPECT_GT(tip.size(), 20U);
+        EXPECT_LT(tip.size(), 250U) << tip;
+    }
+    EXPECT_GE(seen.size(), 30U);
+    EXPECT_EQ(static_cast<std::ptrdiff_t>(seen.size()) + 3,
+              std::count(supplied.begin(), supplied.end(), '='));
 }
 
 TEST_F(Tips, AreWhatTheFileHoldsHoweverItLooks) {
@@ -126,7 +144,8 @@ TEST_F(Tips, AreTheUsersOwnCopyOnceTheyAreUsed) {
     EXPECT_EQ(file(), world.files.contents(kSupplied));
     EXPECT_EQ(open(), "one");
     EXPECT_EQ(pressed("nn"), (Log{"two", "one"}));
-    EXPECT_EQ(world.files.contents(kSupplied), "[TIP]\r\nSTART=T\r\nCURRENT=1\r\n1=one\r\n2=two\r\n");
+    EXPECT_EQ(world.files.contents(kSupplied),
+              "[TIP]\r\nSTART=T\r\nCURRENT=1\r\n1=one\r\n2=two\r\n");
 }
 
 TEST_F(Tips, OnlyOkKeepsTheWishForTipsAtTheStart) {

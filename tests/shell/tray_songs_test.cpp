@@ -20,7 +20,8 @@ class RecentSongsInTheTray : public testing::Test {
 
     // A song that has been finished; the first one is the menu's last entry.
     void remember(const std::string& folder, const std::string& name) {
-        auto& slot = world.program.RecentSongs[static_cast<std::size_t>(world.program.RecentCount++)];
+        auto& slot =
+            world.program.RecentSongs[static_cast<std::size_t>(world.program.RecentCount++)];
         slot = {folder, name};
         MenuItem& entry = world.tray.mnuSong(6 - world.program.RecentCount);
         entry.caption = name;

@@ -1,17 +1,17 @@
 // Hand-made stand-ins for the machine and the desktop. Each writes down what it was asked for.
 #pragma once
 
+#include "core/controls/form.h"
+#include "core/ports/notification_area.h"
+#include "core/ports/services.h"
+#include "core/ports/window_host.h"
+
 #include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
 #include <string>
 #include <vector>
-
-#include "core/controls/form.h"
-#include "core/ports/notification_area.h"
-#include "core/ports/services.h"
-#include "core/ports/window_host.h"
 
 namespace zephyne::test {
 

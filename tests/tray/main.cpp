@@ -22,16 +22,16 @@ bool wait_until(const std::function<bool()>& so) {
 }
 
 void mouse(int x, int y, const QStringList& then) {
-    QProcess::execute("xdotool", QStringList{"mousemove", QString::number(x), QString::number(y)}
-                                     << then);
+    QProcess::execute("xdotool",
+                      QStringList{"mousemove", QString::number(x), QString::number(y)} << then);
 }
 
 }  // namespace zephyne::test
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    zephyne::test::Running display("Xvfb", {"-displayfd", "1", "-screen", "0", "800x600x24",
-                                            "-nolisten", "tcp"});
+    zephyne::test::Running display(
+        "Xvfb", {"-displayfd", "1", "-screen", "0", "800x600x24", "-nolisten", "tcp"});
     if (!display.started() || !display.process().waitForReadyRead(20'000)) {
         return std::fputs("There is no Xvfb to test on.\n", stderr), 1;
     }

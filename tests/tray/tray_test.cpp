@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QMenu>
 #include <QPixmap>
 #include <optional>
@@ -124,6 +125,23 @@ TEST_F(TrayIcon, TheOpenMenuFollowsThePlayerAndOutlivesItsHost) {
     ASSERT_TRUE(wait_until([] { return open_menu() != nullptr; }));
     area.notify_icon(NotifyCommand::remove, record);
     EXPECT_EQ(open_menu(), nullptr);
+}
+
+TEST_F(TrayIcon, IsReachedWhileAWindowIsModal) {
+    const TrayHost host;
+    add();
+    ASSERT_TRUE(reached_by_click());
+    QDialog dialog;
+    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.setGeometry(300, 300, 100, 100);
+    dialog.show();
+    record.uFlags = NotifyIconData::tip_valid;
+    area.notify_icon(NotifyCommand::modify, record);
+    EXPECT_TRUE(reached_by_click());
+    area.show_menu();
+    ASSERT_TRUE(wait_until([] { return open_menu() != nullptr; }));
+    choose(open_menu(), "Show");
+    EXPECT_TRUE(wait_until([this] { return chosen == "second"; }));
 }
 
 }  // namespace

@@ -115,8 +115,8 @@ void light_bulb(QPainter& painter, const Scale&, const QRect& box) {
     filament.lineTo(24.5, 22);
     filament.lineTo(27.5, 19);
     filament.lineTo(26, 32);
-    painter.strokePath(filament, QPen(palette::ice_dim, 1.4, Qt::SolidLine, Qt::RoundCap,
-                                      Qt::RoundJoin));
+    painter.strokePath(filament,
+                       QPen(palette::ice_dim, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 
     for (const double top : {34.0, 37.0, 40.0}) {
         const double inset = top > 39 ? 2 : 0;
