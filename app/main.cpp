@@ -8,6 +8,7 @@
 #include "engine/stage.h"
 #include "platform/desktop/desktop_beeper.h"
 #include "platform/desktop/desktop_clipboard.h"
+#include "platform/desktop/desktop_file_manager.h"
 #include "platform/desktop/local_hand_over.h"
 #include "platform/desktop/mersenne_random.h"
 #include "platform/desktop/program_start.h"
@@ -19,13 +20,21 @@
 #include "platform/sound/audio_output.h"
 #include "platform/sound/sequencer_backend.h"
 #include "platform/sound/synthesizer_engine.h"
+#include "platform/sound/synthesizer_volume.h"
 #include "platform/video/mpv_backend.h"
+#include "shell/input_box.h"
 #include "shell/message_box.h"
 #include "shell/profile_strings.h"
 #include "shell/quick_tips.h"
 #include "shell/tray_menu.h"
+#include "songdata/file_commands.h"
 #include "songdata/information_window.h"
+#include "songdata/move_file.h"
+#include "songdata/presets.h"
+#include "songdata/song_notes.h"
 #include "songdata/song_summary.h"
+#include "songdata/view_presets.h"
+#include "songdata/volume_control.h"
 #include "ui/main_window_layout.h"
 #include "ui/qt/pictures.h"
 #include "ui/qt/pixels.h"
@@ -70,6 +79,7 @@ class Zephyne {
           messages_(program_, scheduler, windows_, beeper_),
           synthesizer_(scheduler, {.sound_font = environment("ZEPHYNE_SOUNDFONT")},
                        make_audio_output(environment("ZEPHYNE_AUDIO"))),
+          midi_volume_(synthesizer_, scheduler, files_),
           sequencer_(scheduler, synthesizer_),
           wave_(scheduler, environment("ZEPHYNE_AUDIO")),
           video_(scheduler, environment("ZEPHYNE_AUDIO")),
@@ -78,22 +88,33 @@ class Zephyne {
           engine_(stage_),
           summary_(stage_),
           information_(stage_, windows_),
+          notes_(stage_, windows_),
+          volume_(stage_, midi_volume_),
+          file_commands_(stage_, engine_, questions_, file_manager_),
+          move_file_(stage_, engine_, windows_),
+          presets_(stage_, engine_),
+          view_presets_(stage_, windows_),
           tray_menu_(stage_, engine_, windows_, notification_area_),
           quick_tips_(stage_, windows_, profiles_, clipboard_),
           layout_(stage_, windows_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
           shut_down_(stage_, engine_) {
         program_.folders = program_folders(files_, start_surroundings());
+        midi_volume_.keep_in(joined(program_.folders.own, "midi-volume", files_.path_style()));
         windows_.create(form_);
         popup_look::dress_tooltips(user_scale_factor());
         synthesizer_.on_problem = [this](const std::string& sentence) {
             messages_.ShowDlgMessage(sentence, 0, "Zephyne");
         };
+        stage_.services.setvolume = [this] { volume_.setvolume(); };
         tray_menu_.put_away = [this] { layout_.put_away(); };
         start_up_.load_tray = [this] { tray_menu_.load(); };
         start_up_.show_quick_tip = [this] {
             if (quick_tips_.tips_at_start()) quick_tips_.show();
         };
+        start_up_.choose_volume_device = [this] { volume_.start(); };
+        start_up_.show_presets = [this] { presets_.show_tooltips(); };
+        shut_down_.close_notes = [this] { notes_.unload(); };
         shut_down_.unload_tray = [this] { tray_menu_.unload(); };
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
@@ -116,7 +137,10 @@ class Zephyne {
     MersenneRandom random_;
     ProfileStrings profiles_;
     MessageBox messages_;
+    InputBox questions_{program_, windows_};
+    DesktopFileManager file_manager_;
     SynthesizerEngine synthesizer_;
+    SynthesizerVolume midi_volume_;
     SequencerBackend sequencer_;
     MpvBackend wave_;
     MpvBackend video_;
@@ -125,6 +149,12 @@ class Zephyne {
     Engine engine_;
     SongSummary summary_;
     InformationWindow information_;
+    SongNotes notes_;
+    VolumeControl volume_;
+    FileCommands file_commands_;
+    MoveFile move_file_;
+    Presets presets_;
+    ViewPresets view_presets_;
     TrayMenu tray_menu_;
     QuickTips quick_tips_;
     MainWindowLayout layout_;

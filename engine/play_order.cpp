@@ -59,11 +59,31 @@ void PlayOrder::refill() {
 
 void PlayOrder::refill_without(std::size_t song) {
     Form1& f = stage_.form;
-    std::vector<ListItem> others = all_songs().items();
-    others.erase(others.begin() + static_cast<std::ptrdiff_t>(song));
+    ListRows others = all_songs().items();
+    others.erase(song);
     f.List1.set_items(std::move(others), Sorting::done);
     stage_.program.OrderIndex =
         runs_backwards(stage_.settings()) ? static_cast<std::int32_t>(f.List1.count()) - 1 : 0;
+}
+
+void PlayOrder::drop(const std::string& real_name) {
+    ListBox& remaining = stage_.form.List1;
+    for (std::size_t row = remaining.count(); row-- > 0;) {
+        if (remaining.item(row).real() != real_name) continue;
+        remaining.remove(row);
+        if (static_cast<std::int32_t>(row) < stage_.program.OrderIndex) {
+            --stage_.program.OrderIndex;
+        }
+    }
+}
+
+void PlayOrder::rename(const std::string& real_name, ListItem renamed) {
+    ListBox& remaining = stage_.form.List1;
+    const std::size_t before = remaining.count();
+    drop(real_name);
+    if (remaining.count() == before) return;
+    const std::size_t row = remaining.add(std::move(renamed));
+    if (static_cast<std::int32_t>(row) < stage_.program.OrderIndex) ++stage_.program.OrderIndex;
 }
 
 void PlayOrder::show_counters() {
@@ -112,7 +132,7 @@ void PlayOrder::select_in_list(const ListItem& entry) {
     auto found = songs.end();
     if (stage_.settings().Playlist == 0) found = std::find(songs.begin(), songs.end(), entry);
     if (found == songs.end()) {
-        found = std::find_if(songs.begin(), songs.end(), [&](const ListItem& song) {
+        found = std::find_if(songs.begin(), songs.end(), [&](const ListRow& song) {
             return song.text.starts_with(program.CurrentSongName);
         });
     }
@@ -162,7 +182,7 @@ void PlayOrder::play_next_queued() {
     Program& program = stage_.program;
     Form1& f = stage_.form;
     while (!f.List2.empty()) {
-        const std::string path = f.List2.item(0).text;
+        const std::string path(f.List2.item(0).text);
         f.List2.remove(0);
         if (!stage_.files.check_readable(path)) {
             stage_.events.pump();

@@ -36,6 +36,11 @@ class PlayOrder final : public NextSong {
     void refill();
     void refill_without(std::size_t song);
 
+    // The file is gone, or has another name now: RemainingList no longer holds it under the old.
+    // Which song comes next does not change by that.
+    void drop(const std::string& real_name);
+    void rename(const std::string& real_name, ListItem renamed);
+
     // The counters beside "Total:" and "Remaining:".
     void show_counters();
 

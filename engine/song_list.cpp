@@ -5,8 +5,8 @@
 #include "core/text/numbers.h"
 #include "engine/recent_songs.h"
 
+#include <string_view>
 #include <utility>
-#include <vector>
 
 namespace zephyne {
 namespace {
@@ -44,22 +44,18 @@ void SongList::refreshfiles() {
         const FlagGuard emptying(stage_.program.FindSync);
         f.text2.set_text("");
     }
-    std::vector<ListItem> songs;
-    auto names = stage_.files.list_files(f.Dir1.path());
+    ListRows songs;
+    const auto names = stage_.files.list_files(f.Dir1.path());
     // A long list takes a while to read, to name and to sort; the picture goes on in between.
     const bool is_long = names && names->size() > kLongList;
     if (is_long) stage_.events.show();
     if (names) {
         const bool lower = stage_.settings().Lowercase == 1;
         songs.reserve(names->size());
-        for (std::string& name : *names) {
+        for (const std::string& name : *names) {
             if (!is_listed(song_kind(name), stage_.settings())) continue;
-            std::string shown = lower ? capitalised(name) : name;
-            if (shown == name) {
-                songs.push_back({std::move(shown), {}});
-            } else {
-                songs.push_back({std::move(shown), std::move(name)});
-            }
+            const std::string shown = lower ? capitalised(name) : name;
+            songs.append({shown, shown == name ? std::string_view() : name});
         }
     }
     if (is_long) stage_.events.show();

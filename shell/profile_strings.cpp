@@ -16,14 +16,6 @@ std::string first_characters(std::string text, std::size_t count) {
     return text;
 }
 
-enum class Written { all, part, nothing };
-
-Written write_file(FileSystem& files, const std::string& path, const std::string& text) {
-    auto file = files.create_file(path);
-    if (!file) return Written::nothing;
-    return (*file)->write(text) && (*file)->close() ? Written::all : Written::part;
-}
-
 }  // namespace
 
 std::string ProfileStrings::get_string(const std::string& path, const std::string& section,
@@ -40,11 +32,8 @@ bool ProfileStrings::write_string(const std::string& path, const std::string& se
     if (!text && text.error().kind != FileErrorKind::not_found) return false;
     const std::string before = text.value_or("");
     if (before.size() == FileSystem::text_file_limit) return false;  // there may be more of it
-    const Written written =
-        write_file(files_, path, with_profile_value(before, section, key, value));
-    // Cut short by a full disk, it may still hold what it held before.
-    if (written == Written::part) write_file(files_, path, before);
-    return written == Written::all;
+    const std::string after = with_profile_value(before, section, key, value);
+    return files_.replace_file(path, after).has_value();
 }
 
 }  // namespace zephyne

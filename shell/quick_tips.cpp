@@ -44,10 +44,7 @@ void QuickTips::fetch_tip_file() {
     if (own || own.error().kind != FileErrorKind::not_found) return;
     const auto supplied =
         stage_.files.read_file(folders.file(stage_.files, kFile), FileSystem::text_file_limit);
-    if (!supplied) return;
-    if (auto file = stage_.files.create_file(tip_file()); file && (*file)->write(*supplied)) {
-        (void)(*file)->close();
-    }
+    if (supplied) (void)stage_.files.replace_file(tip_file(), *supplied);
 }
 
 std::string QuickTips::ReadTipValue(const std::string& key) const {

@@ -4,7 +4,6 @@
 #include "core/text/letter_case.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <utility>
 
 namespace zephyne {
@@ -26,42 +25,39 @@ std::string ListBox::key_of(std::string_view text) const {
     return key;
 }
 
-std::vector<ListItem> ListBox::sorted(std::vector<ListItem> items) const {
-    if (order_ == ListOrder::as_added) return items;
+std::vector<std::uint32_t> ListBox::order_of(const ListRows& items) const {
     KeySort sort(items.size());
-    for (const ListItem& item : items) {
-        append_key(sort.bytes(), item.text);
+    for (const ListRow& row : items) {
+        append_key(sort.bytes(), row.text);
         sort.close_key();
     }
-    std::vector<ListItem> result;
-    result.reserve(items.size());
-    for (const std::uint32_t index : sort.order()) result.push_back(std::move(items[index]));
-    return result;
+    return sort.order();
 }
 
-void ListBox::set_items(std::vector<ListItem> items, Sorting sorting) {
-    items_ = sorting == Sorting::done ? std::move(items) : sorted(std::move(items));
+void ListBox::set_items(ListRows items, Sorting sorting) {
+    if (order_ != ListOrder::as_added && sorting == Sorting::needed) items.arrange(order_of(items));
+    items_ = std::move(items);
     selected_.reset();
     changed(Property::items);
 }
 
-std::size_t ListBox::add(ListItem item) {
+std::size_t ListBox::add(const ListItem& item) {
     std::size_t at = items_.size();
     if (order_ != ListOrder::as_added) {
         const std::string key = key_of(item.text);
         const auto place = std::upper_bound(
             items_.begin(), items_.end(), key,
-            [&](const std::string& k, const ListItem& other) { return k < key_of(other.text); });
+            [&](const std::string& k, const ListRow& other) { return k < key_of(other.text); });
         at = static_cast<std::size_t>(place - items_.begin());
     }
-    items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(at), std::move(item));
+    items_.insert(at, item);
     if (selected_ && *selected_ >= at) ++*selected_;
     changed(Property::items);
     return at;
 }
 
 void ListBox::remove(std::size_t index) {
-    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index));
+    items_.erase(index);
     if (selected_ == index) {
         selected_.reset();
     } else if (selected_ && *selected_ > index) {
@@ -98,7 +94,7 @@ std::size_t ListBox::lower_bound(std::string_view text) const {
     const std::string key = collation_prefix(text);
     const auto place = std::lower_bound(
         items_.begin(), items_.end(), key,
-        [&](const ListItem& item, const std::string& k) { return key_of(item.text) < k; });
+        [&](const ListRow& item, const std::string& k) { return key_of(item.text) < k; });
     return static_cast<std::size_t>(place - items_.begin());
 }
 

@@ -2,14 +2,15 @@
 #pragma once
 
 #include "core/controls/form.h"
+#include "core/ports/midi_out_volume.h"
 #include "core/ports/notification_area.h"
 #include "core/ports/services.h"
 #include "core/ports/window_host.h"
 
-#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -52,6 +53,46 @@ class ScriptedMessages final : public Messages {
 
   private:
     Log& log_;
+};
+
+// Answers a question at once; by default with the proposal.
+class ScriptedQuestions final : public Questions {
+  public:
+    explicit ScriptedQuestions(Log& log) : log_(log) {}
+
+    std::optional<std::string> answer;
+
+    std::string ask(std::string prompt, std::string title, std::string proposal) override {
+        log_.push_back("ask: " + prompt + " [" + title + "] " + proposal);
+        return answer.value_or(proposal);
+    }
+
+  private:
+    Log& log_;
+};
+
+class LoggedFileManager final : public FileManager {
+  public:
+    explicit LoggedFileManager(Log& log) : log_(log) {}
+    void open_folder(const std::string& folder) override { log_.push_back("open " + folder); }
+
+  private:
+    Log& log_;
+};
+
+// MIDI outputs whose volumes can be turned by somebody else.
+class FakeMidiOut final : public MidiOutVolume {
+  public:
+    std::vector<std::string> names = {"Zephyne Synthesizer"};
+    std::map<std::uint32_t, std::uint32_t> words;  // full where there is none
+
+    std::uint32_t device_count() const override { return static_cast<std::uint32_t>(names.size()); }
+    std::string device_name(std::uint32_t device) const override { return names[device]; }
+    std::uint32_t volume(std::uint32_t device) const override {
+        const auto found = words.find(device);
+        return found == words.end() ? 0xFFFFFFFF : found->second;
+    }
+    void set_volume(std::uint32_t device, std::uint32_t volume) override { words[device] = volume; }
 };
 
 class FakeHandOver final : public HandOver {
@@ -120,13 +161,13 @@ class FakeWindows final : public WindowHost {
     std::map<std::string, std::int32_t> styles;
     Log raised;
     int height_of_text = 0;
-    std::vector<Form*> open;  // in the order in which their windows were made
     Form* modal = nullptr;
     std::function<void(Form&)> on_modal;
+    std::map<std::string, Form*> open;  // the windows that there are, by name
 
     int text_height(const Label&) const override { return height_of_text; }
-    void create(Form& form) override { open.push_back(&form); }
-    void destroy(Form& form) override { std::erase(open, &form); }
+    void create(Form& form) override { open[form.name()] = &form; }
+    void destroy(Form& form) override { open.erase(form.name()); }
     void run_modal(Form& form) override {
         form.set_visible(true);
         form.user_activated();
@@ -142,9 +183,8 @@ class FakeWindows final : public WindowHost {
     }
     void bring_to_front(Form& form) override { raised.push_back(form.name()); }
     Form* find(std::string_view form_name) const override {
-        const auto found = std::find_if(open.begin(), open.end(),
-                                        [&](Form* form) { return form->name() == form_name; });
-        return found == open.end() ? nullptr : *found;
+        const auto found = open.find(std::string(form_name));
+        return found == open.end() ? nullptr : found->second;
     }
     Form* modal_form() const override { return modal; }
     bool reachable_when_hidden() const override { return has_icon; }
