@@ -22,6 +22,9 @@
 #include "platform/sound/synthesizer_engine.h"
 #include "platform/sound/synthesizer_volume.h"
 #include "platform/video/mpv_backend.h"
+#include "playlists/open_playlist.h"
+#include "playlists/playlist_editor.h"
+#include "playlists/playlist_file.h"
 #include "shell/input_box.h"
 #include "shell/message_box.h"
 #include "shell/profile_strings.h"
@@ -39,6 +42,7 @@
 #include "ui/qt/pictures.h"
 #include "ui/qt/pixels.h"
 #include "ui/qt/popup_look.h"
+#include "ui/qt/qt_file_dialogs.h"
 #include "ui/qt/qt_window_host.h"
 #include "ui/shut_down.h"
 #include "ui/start_up.h"
@@ -96,6 +100,13 @@ class Zephyne {
           view_presets_(stage_, windows_),
           tray_menu_(stage_, engine_, windows_, notification_area_),
           quick_tips_(stage_, windows_, profiles_, clipboard_),
+          audition_sequencer_(scheduler, synthesizer_),
+          audition_wave_(scheduler, environment("ZEPHYNE_AUDIO")),
+          audition_video_(scheduler, environment("ZEPHYNE_AUDIO")),
+          playlist_file_(stage_, file_dialogs_),
+          open_playlist_(stage_, engine_.order, playlist_file_),
+          playlist_editor_(stage_, engine_, scheduler, windows_, playlist_file_,
+                           {audition_sequencer_, audition_wave_, audition_video_}),
           layout_(stage_, windows_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
           shut_down_(stage_, engine_) {
@@ -132,6 +143,7 @@ class Zephyne {
     QtWindowHost windows_{user_scale_factor(), [this] { return tray_menu_.reachable(); }};
     QtNotificationArea notification_area_{pictures::tray_icon(),
                                           popup_look::menu(user_scale_factor())};
+    QtFileDialogs file_dialogs_{user_scale_factor()};
     DesktopBeeper beeper_;
     DesktopClipboard clipboard_;
     MersenneRandom random_;
@@ -157,6 +169,12 @@ class Zephyne {
     ViewPresets view_presets_;
     TrayMenu tray_menu_;
     QuickTips quick_tips_;
+    SequencerBackend audition_sequencer_;
+    MpvBackend audition_wave_;
+    MpvBackend audition_video_;
+    PlaylistFile playlist_file_;
+    OpenPlaylist open_playlist_;
+    PlaylistEditor playlist_editor_;
     MainWindowLayout layout_;
     StartUp start_up_;
     ShutDown shut_down_;

@@ -75,7 +75,7 @@ TEST_F(Tips, OfTheProgramAreManyAndAllCanBeReached) {
         EXPECT_LT(tip.size(), 250U) << tip;
     }
     EXPECT_GE(seen.size(), 30U);
-    EXPECT_EQ(static_cast<std::ptrdiff_t>(seen.size()) + 3,
+    EXPECT_EQ(static_cast<std::ptrdiff_t>(seen.size()) + 2,
               std::count(supplied.begin(), supplied.end(), '='));
 }
 

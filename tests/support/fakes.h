@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/controls/form.h"
+#include "core/ports/file_dialogs.h"
 #include "core/ports/midi_out_volume.h"
 #include "core/ports/notification_area.h"
 #include "core/ports/services.h"
@@ -52,6 +53,35 @@ class ScriptedMessages final : public Messages {
     }
 
   private:
+    Log& log_;
+};
+
+// File dialogs answered beforehand, in turn; with no answer left they are cancelled.
+class ScriptedFileDialogs final : public FileDialogs {
+  public:
+    explicit ScriptedFileDialogs(Log& log) : log_(log) {}
+
+    std::deque<std::string> answers;
+
+    std::optional<std::string> open_file(const FileChoice& choice) override {
+        return answer("open " + choice.default_extension);
+    }
+    std::optional<std::string> save_file(const FileChoice& choice) override {
+        return answer("save " + choice.default_extension);
+    }
+    std::optional<std::string> choose_folder(const std::string& title) override {
+        return answer(title);
+    }
+
+  private:
+    std::optional<std::string> answer(const std::string& question) {
+        log_.push_back("dialog: " + question);
+        if (answers.empty()) return std::nullopt;
+        const std::string first = answers.front();
+        answers.pop_front();
+        return first;
+    }
+
     Log& log_;
 };
 
