@@ -52,6 +52,13 @@ QString menu(double factor) {
         factor);
 }
 
+QString whats_this(double factor) {
+    return filled_in(QStringLiteral("QLabel { background: $ground; color: $text;"
+                                    " border: (1) solid $edge; padding: (4) (11);"
+                                    " font: 400 (11) \"$family\"; }"),
+                     factor);
+}
+
 void run_menu(QMenu* menu, double factor, const QPoint& screen_point) {
     const std::unique_ptr<QMenu> owned(menu);
     if (!owned) return;

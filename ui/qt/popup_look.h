@@ -11,6 +11,7 @@ namespace zephyne::popup_look {
 // factor: logical pixels per px at 100 %.
 QString tooltip(double factor);
 QString menu(double factor);
+QString whats_this(double factor);
 
 // Shows a menu (null: does nothing) in our look until the user has chosen, and deletes it.
 void run_menu(QMenu* menu, double factor, const QPoint& screen_point);
