@@ -1,13 +1,4 @@
 // Builds the ports, builds the program on them, and runs it.
-#include <QApplication>
-#include <QSessionManager>
-#include <QTimer>
-
-#include <clocale>
-#include <cstdio>
-#include <cstdlib>
-#include <string>
-
 #include "core/program.h"
 #include "core/scheduler.h"
 #include "core/sheets/form1.h"
@@ -16,6 +7,8 @@
 #include "engine/media_device.h"
 #include "engine/stage.h"
 #include "platform/desktop/desktop_beeper.h"
+#include "platform/desktop/desktop_pages.h"
+#include "platform/desktop/libraries_in_use.h"
 #include "platform/desktop/local_hand_over.h"
 #include "platform/desktop/mersenne_random.h"
 #include "platform/desktop/program_start.h"
@@ -27,14 +20,28 @@
 #include "platform/sound/sequencer_backend.h"
 #include "platform/sound/synthesizer_engine.h"
 #include "platform/video/mpv_backend.h"
+#include "shell/about_box.h"
+#include "shell/help.h"
 #include "shell/message_box.h"
+#include "shell/web_links.h"
 #include "songdata/information_window.h"
 #include "songdata/song_summary.h"
+#include "ui/main_window_commands.h"
 #include "ui/main_window_layout.h"
+#include "ui/options_window.h"
+#include "ui/qt/help_window.h"
 #include "ui/qt/pixels.h"
 #include "ui/qt/qt_window_host.h"
 #include "ui/shut_down.h"
 #include "ui/start_up.h"
+
+#include <QApplication>
+#include <QSessionManager>
+#include <QTimer>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
 
 namespace {
 
@@ -56,7 +63,9 @@ std::string environment(const char* name) {
 class Zephyne {
   public:
     Zephyne(PosixFileSystem& files, Scheduler& scheduler, LocalHandOver& hand_over)
-        : files_(files), form_(files_, scheduler), pump_(scheduler),
+        : files_(files),
+          form_(files_, scheduler),
+          pump_(scheduler),
           messages_(program_, scheduler, windows_, beeper_),
           synthesizer_(scheduler, {.sound_font = environment("ZEPHYNE_SOUNDFONT")},
                        make_audio_output(environment("ZEPHYNE_AUDIO"))),
@@ -64,19 +73,30 @@ class Zephyne {
           wave_(scheduler, environment("ZEPHYNE_AUDIO")),
           video_(scheduler, environment("ZEPHYNE_AUDIO")),
           device_(scheduler, files_, form_.MMControl1, {sequencer_, wave_, video_}),
-          stage_{program_, form_,     tray_,   device_, files_,
-                 pump_,    messages_, beeper_, random_},
+          stage_{program_, form_, tray_, device_, files_, pump_, messages_, beeper_, random_},
           engine_(stage_),
           summary_(stage_),
           information_(stage_, windows_),
+          about_(program_, windows_, {ZEPHYNE_VERSION, libraries_in_use()}),
+          help_(program_, files_, help_viewer_),
+          web_links_(program_, files_, pages_),
           layout_(stage_, windows_),
+          options_(stage_, engine_, layout_, windows_, options_services_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
-          shut_down_(stage_, engine_) {
+          shut_down_(stage_, engine_),
+          commands_(stage_, layout_,
+                    {.show_options = [this] { options_.show(); },
+                     .show_help = [this] { help_.show_contents(); },
+                     .show_web_links = [this] { web_links_.show(); }}) {
         program_.folders = program_folders(files_, start_surroundings());
         windows_.create(form_);
         synthesizer_.on_problem = [this](const std::string& sentence) {
             messages_.ShowDlgMessage(sentence, 0, "Zephyne");
         };
+        options_services_.show_about = [this] { about_.show(); };
+        options_services_.ask_whats_this = [this] { help_.ask_whats_this(); };
+        options_services_.help_text = [this](std::string_view topic) { return help_.topic(topic); };
+        shut_down_.close_help = [this] { help_.close(); };
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
 
@@ -103,9 +123,17 @@ class Zephyne {
     Engine engine_;
     SongSummary summary_;
     InformationWindow information_;
+    AboutBox about_;
+    QtHelpViewer help_viewer_{user_scale_factor()};
+    Help help_;
+    DesktopPages pages_;
+    WebLinks web_links_;
     MainWindowLayout layout_;
+    OptionsServices options_services_;
+    OptionsWindow options_;
     StartUp start_up_;
     ShutDown shut_down_;
+    MainWindowCommands commands_;
 };
 
 }  // namespace

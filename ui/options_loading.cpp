@@ -103,7 +103,8 @@ void load_options(Form2& form, const Settings& settings, const OptionsServices& 
 
 void load_options_help(Form2& form, const OptionsServices& services) {
     if (!services.help_text) return;
-    for (Control* control : form.controls()) control->set_help(services.help_text(topic_of(*control)));
+    for (Control* control : form.controls())
+        control->set_help(services.help_text(topic_of(*control)));
     form.Label3.set_help(form.Check7.help());
     form.Label2.set_help(form.text2.help());
     form.Label4.set_help(form.Check6.help());

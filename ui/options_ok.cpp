@@ -9,9 +9,9 @@
 namespace zephyne {
 namespace {
 
-constexpr double kLongestDelay = 60;             // seconds
+constexpr double kLongestDelay = 60;               // seconds
 constexpr std::int32_t kUnusablePreviewFrom = 60;  // seconds
-constexpr std::int32_t kUsualPreview = 5;        // seconds
+constexpr std::int32_t kUsualPreview = 5;          // seconds
 
 void call(const std::function<void()>& service) {
     if (service) service();
