@@ -23,6 +23,7 @@ constexpr int kHeight = 640;
 constexpr int kMargin = 12;
 constexpr int kGap = 8;
 constexpr int kPageMargin = 14;
+constexpr int kIndent = 20;
 
 int scaled(int length, double factor) {
     return static_cast<int>(std::lround(length * factor));
@@ -33,6 +34,7 @@ int scaled(int length, double factor) {
 HelpPage::HelpPage(QWidget* parent, double factor) : QTextBrowser(parent), factor_(factor) {
     setOpenExternalLinks(true);
     document()->setDefaultStyleSheet(popup_look::help_document(factor));
+    document()->setIndentWidth(scaled(kIndent, factor));
     document()->setDocumentMargin(scaled(kPageMargin, factor));
 }
 

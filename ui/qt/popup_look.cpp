@@ -98,17 +98,18 @@ QString help_window(double factor) {
 }
 
 QString help_document(double factor) {
-    return filled_in(QStringLiteral("body, p, li, td, th, pre { font: 400 (12) \"$family\";"
-                                    " color: $prose; }"
-                                    "h1 { font: 600 (20) \"$family\"; color: $lit; }"
-                                    "h2 { font: 600 (16) \"$family\"; color: $lit;"
-                                    " margin-top: (22); }"
-                                    "h3 { font: 600 (12) \"$family\"; color: $text;"
-                                    " margin-top: (14); }"
-                                    "b, th { font-weight: 600; color: $text; }"
-                                    "code, pre { font-family: monospace; color: $text; }"
-                                    "a { color: $link; text-decoration: none; }"),
-                     factor);
+    return filled_in(
+        QStringLiteral("body, p, li, td, th, pre { font: 400 (12) \"$family\"; line-height: 125%;"
+                       " color: $prose; }"
+                       "h1 { font: 600 (20) \"$family\"; color: $lit; }"
+                       "h2 { font: 600 (16) \"$family\"; color: $lit;"
+                       " margin-top: (22); }"
+                       "h3 { font: 600 (12) \"$family\"; color: $text;"
+                       " margin-top: (14); }"
+                       "b, th { font-weight: 600; color: $text; }"
+                       "code, pre { font-family: monospace; color: $text; }"
+                       "a { color: $link; text-decoration: none; }"),
+        factor);
 }
 
 void run_menu(QMenu* menu, double factor, const QPoint& screen_point) {
