@@ -56,6 +56,7 @@ class FileSystem {
 
     virtual PathStyle path_style() const = 0;
     virtual std::string current_folder() const = 0;
+    virtual FileResult<void> set_current_folder(const std::string& folder) = 0;
 
     // The volumes in the order of the drive list; never empty. May change while the program runs.
     virtual std::vector<Volume> volumes() const = 0;
@@ -88,6 +89,26 @@ class FileSystem {
 
     // Creates the file, or empties the one that is there.
     virtual FileResult<std::unique_ptr<OutputFile>> create_file(const std::string& path) = 0;
+
+    // What is done to whole files. Only ordinary files are touched, and a file without permission
+    // to write it is neither removed nor replaced, even where its folder would allow it. On failure
+    // everything is as it was.
+
+    // Gives the file these contents in one step: nobody, and no failure of the machine, ever finds
+    // half of them.
+    virtual FileResult<void> replace_file(const std::string& path, std::string_view bytes) = 0;
+
+    virtual FileResult<void> remove_file(const std::string& path) = 0;
+
+    // Gives a file another name or another folder of the same volume. Where `to` is another file,
+    // if only in another case, that is `already_exists`; for a new case of the file's own name it
+    // is not.
+    virtual FileResult<void> rename_file(const std::string& from, const std::string& to) = 0;
+
+    // The same for any volume: where it is another one, the file is copied to the disk, the
+    // lengths are compared, and only then the old file is removed. Moved onto itself it fails with
+    // permission_denied.
+    virtual FileResult<void> move_file(const std::string& from, const std::string& to) = 0;
 
     // Settings, notes, volumes and playlists are far below this.
     static constexpr std::size_t text_file_limit = 64U << 20U;

@@ -3,18 +3,9 @@
 
 #include <unistd.h>
 
-#include <cerrno>
 #include <utility>
 
 namespace zephyne {
-
-// Repeats a system call that a signal interrupted.
-template <class Call>
-auto uninterrupted(Call call) {
-    auto result = call();
-    while (result < 0 && errno == EINTR) result = call();
-    return result;
-}
 
 class Descriptor {
   public:

@@ -2,6 +2,7 @@
 
 #include "platform/files/descriptor.h"
 #include "platform/files/file_errors.h"
+#include "platform/files/open_file.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/posix_folder_reader.h"
 #include "platform/files/volumes.h"
@@ -18,40 +19,6 @@
 namespace zephyne {
 namespace {
 
-constexpr mode_t kNewFileMode = 0666;  // less the user's mask
-
-// A call on a path, tried as written and then on its match in any case.
-template <class Call>
-auto on_real_path(const std::string& path, Call call) -> decltype(call(path)) {
-    if (path.empty() || path.find('\0') != std::string::npos) {
-        return tl::unexpected(file_error(EINVAL));
-    }
-    auto result = call(path);
-    if (result || result.error().kind != FileErrorKind::not_found) return result;
-    const auto real = find_in_any_case(path);
-    if (!real) return tl::unexpected(real.error());
-    if (*real == path) return result;
-    return call(*real);
-}
-
-// An ordinary file, opened. What it is gets asked before opening, because opening alone already
-// disturbs a pipe's other end or a device; and after, because it may have been exchanged.
-FileResult<Descriptor> open_ordinary(const std::string& path, int flags) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) == 0) {
-        if (!S_ISREG(status.st_mode)) return tl::unexpected(not_an_ordinary_file());
-    } else if (errno != ENOENT || !(flags & O_CREAT)) {
-        return tl::unexpected(file_error(errno));
-    }
-    Descriptor file(uninterrupted([&] {
-        return ::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, kNewFileMode);
-    }));
-    if (!file) return tl::unexpected(file_error(errno));
-    if (::fstat(file.number(), &status) != 0) return tl::unexpected(file_error(errno));
-    if (!S_ISREG(status.st_mode)) return tl::unexpected(not_an_ordinary_file());
-    return file;
-}
-
 FileResult<Descriptor> open_for_reading(const std::string& path) {
     return on_real_path(path,
                         [](const std::string& real) { return open_ordinary(real, O_RDONLY); });
@@ -61,15 +28,7 @@ class PosixOutputFile final : public OutputFile {
   public:
     explicit PosixOutputFile(Descriptor file) : file_(std::move(file)) {}
 
-    FileResult<void> write(std::string_view bytes) override {
-        while (!bytes.empty()) {
-            const auto written =
-                uninterrupted([&] { return ::write(file_.number(), bytes.data(), bytes.size()); });
-            if (written < 0) return tl::unexpected(file_error(errno));
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        }
-        return {};
-    }
+    FileResult<void> write(std::string_view bytes) override { return write_all(file_, bytes); }
 
     FileResult<void> close() override {
         if (!file_.close() && errno != EINTR) return tl::unexpected(file_error(errno));
@@ -113,24 +72,17 @@ FileResult<std::vector<std::string>> list(const std::string& folder, Members whi
     return names;
 }
 
-// Where a file that is to be written lies or will lie: a file that is there in another case is
-// that file, and a new one goes into its folder under the name as written.
-FileResult<std::string> path_for_writing(const std::string& path) {
-    if (auto there = find_in_any_case(path)) return there;
-    const auto [folder, name] = split_path(path, PathStyle::posix);
-    if (folder.empty()) return path;
-    auto real_folder = find_in_any_case(folder);
-    if (!real_folder) {
-        if (real_folder.error().kind != FileErrorKind::not_found) return real_folder;
-        return tl::unexpected(folder_error(ENOENT));
-    }
-    return joined(*real_folder, name, PathStyle::posix);
-}
-
 }  // namespace
 
 std::string PosixFileSystem::current_folder() const {
     return working_folder();
+}
+
+FileResult<void> PosixFileSystem::set_current_folder(const std::string& folder) {
+    return on_real_path(folder, [](const std::string& real) -> FileResult<void> {
+        if (::chdir(real.c_str()) != 0) return tl::unexpected(folder_error(errno));
+        return {};
+    });
 }
 
 std::vector<Volume> PosixFileSystem::volumes() const {

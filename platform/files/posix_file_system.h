@@ -12,6 +12,7 @@ class PosixFileSystem final : public FileSystem {
   public:
     PathStyle path_style() const override { return PathStyle::posix; }
     std::string current_folder() const override;
+    FileResult<void> set_current_folder(const std::string& folder) override;
     std::vector<Volume> volumes() const override;
     FileResult<std::vector<std::string>> list_files(const std::string& folder) const override;
     FileResult<std::vector<std::string>> list_folders(const std::string& folder) const override;
@@ -22,6 +23,10 @@ class PosixFileSystem final : public FileSystem {
     FileResult<std::uint64_t> file_length(const std::string& path) const override;
     FileResult<std::string> read_file(const std::string& path, std::size_t limit) const override;
     FileResult<std::unique_ptr<OutputFile>> create_file(const std::string& path) override;
+    FileResult<void> replace_file(const std::string& path, std::string_view bytes) override;
+    FileResult<void> remove_file(const std::string& path) override;
+    FileResult<void> rename_file(const std::string& from, const std::string& to) override;
+    FileResult<void> move_file(const std::string& from, const std::string& to) override;
 };
 
 }  // namespace zephyne

@@ -1,6 +1,6 @@
 #include "platform/files/posix_folder_reader.h"
 
-#include "platform/files/file_errors.h"
+#include "platform/files/open_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -57,11 +57,19 @@ struct MemoryFileSystem::Node : std::enable_shared_from_this<MemoryFileSystem::N
     }
 
     Node& add(std::string member_name) {
-        auto node = std::make_shared<Node>();
+        return adopt(std::make_shared<Node>(), std::move(member_name));
+    }
+
+    Node& adopt(const NodePtr& node, std::string member_name) {
         node->name = std::move(member_name);
         by_name[node->name] = node.get();
         members.push_back(node);
         return *node;
+    }
+
+    void drop(const Node& gone) {
+        by_name.erase(gone.name);
+        std::erase_if(members, [&](const NodePtr& member) { return member.get() == &gone; });
     }
 };
 
@@ -70,11 +78,9 @@ class MemoryFileSystem::Output final : public OutputFile {
     Output(MemoryFileSystem& files, NodePtr node) : files_(files), node_(std::move(node)) {}
 
     FileResult<void> write(std::string_view bytes) override {
-        if (files_.writes_until_failure_ > 0 && --files_.writes_until_failure_ == 0) {
-            return error(FileErrorKind::other, "Disk full");
-        }
-        node_->contents.append(bytes);
-        return {};
+        const auto written = files_.write_fault();
+        if (written) node_->contents.append(bytes);
+        return written;
     }
 
     FileResult<void> close() override {
@@ -214,14 +220,15 @@ void MemoryFileSystem::remove(std::string_view path) {
     const Node& gone = must_exist(path);
     auto parts = parts_of(path);
     parts.pop_back();
-    Node& folder = folder_for(parts);
-    folder.by_name.erase(gone.name);
-    std::erase_if(folder.members, [&](const NodePtr& member) { return member.get() == &gone; });
+    folder_for(parts).drop(gone);
 }
 
-void MemoryFileSystem::set_current_folder(std::string_view path) {
-    current_folder_ = path_of(parts_of(path));
-    add_folder(current_folder_);
+FileResult<void> MemoryFileSystem::set_current_folder(const std::string& folder) {
+    const auto real = resolve(folder);
+    if (!real) return tl::unexpected(real.error());
+    if (!(*find(*real))->is_folder) return not_found("Path not found");
+    current_folder_ = *real;
+    return {};
 }
 
 bool MemoryFileSystem::exists(std::string_view path) const {
@@ -396,6 +403,105 @@ FileResult<std::unique_ptr<OutputFile>> MemoryFileSystem::create_file(const std:
         file = &(*folder)->add(name);
     }
     return std::make_unique<Output>(*this, file->shared_from_this());
+}
+
+FileResult<void> MemoryFileSystem::write_fault() {
+    if (writes_until_failure_ > 0 && --writes_until_failure_ == 0) {
+        return error(FileErrorKind::other, "Disk full");
+    }
+    return {};
+}
+
+FileResult<void> MemoryFileSystem::replace_file(const std::string& path, std::string_view bytes) {
+    const auto old = find(path);
+    if (old && (*old)->fault == Fault::write_denied) return permission_denied();
+    const std::string before = old ? (*old)->contents : "";
+    auto file = create_file(path);
+    if (!file) return tl::unexpected(file.error());
+    auto done = (*file)->write(bytes);
+    if (done) done = (*file)->close();
+    if (done) return {};
+    if (old) {
+        (*old)->contents = before;
+    } else {
+        (void)remove_file(path);
+    }
+    return done;
+}
+
+MemoryFileSystem::Node& MemoryFileSystem::folder_of(const Node& member) const {
+    const auto holds = [&](const auto& self, Node& folder) -> Node* {
+        for (const NodePtr& candidate : folder.members) {
+            if (candidate.get() == &member) return &folder;
+            if (Node* found = self(self, *candidate)) return found;
+        }
+        return nullptr;
+    };
+    return *holds(holds, *top_);
+}
+
+FileResult<void> MemoryFileSystem::remove_file(const std::string& path) {
+    const auto file = open_for_reading(path);
+    if (!file) return tl::unexpected(file.error());
+    Node& folder = folder_of(**file);
+    if ((*file)->fault == Fault::write_denied || folder.fault == Fault::write_denied) {
+        return permission_denied();
+    }
+    folder.drop(**file);
+    return {};
+}
+
+// Puts a file where it is to be, under the name as written.
+FileResult<void> MemoryFileSystem::give_place(Node& file, const std::string& to) {
+    auto parts = to.empty() ? std::vector<std::string>{} : parts_of(to);
+    if (parts.size() < 2) return not_found("Path not found");
+    const std::string name = parts.back();
+    parts.pop_back();
+    const auto target = find(path_of(parts));
+    if (!target || !(*target)->is_folder) {
+        return target ? not_found("Path not found") : tl::unexpected(target.error());
+    }
+    Node& source = folder_of(file);
+    for (const Node* folder : {&source, *target}) {
+        if (folder->fault == Fault::denied || folder->fault == Fault::write_denied) {
+            return permission_denied();
+        }
+    }
+    const Node* there = (*target)->member_in_any_case(name);
+    if (there && there != &file) return error(FileErrorKind::already_exists, "File already exists");
+    const NodePtr kept = file.shared_from_this();
+    source.drop(file);
+    (*target)->adopt(kept, name);
+    return {};
+}
+
+FileResult<void> MemoryFileSystem::rename_file(const std::string& from, const std::string& to) {
+    const auto file = open_for_reading(from);
+    if (!file) return tl::unexpected(file.error());
+    return give_place(**file, to);
+}
+
+// The volume whose root is the longest beginning of the path.
+std::string MemoryFileSystem::volume_of(const std::string& path) const {
+    std::string longest;
+    for (const Volume& volume : volumes()) {
+        if (path.starts_with(volume.root) && volume.root.size() > longest.size()) {
+            longest = volume.root;
+        }
+    }
+    return longest;
+}
+
+FileResult<void> MemoryFileSystem::move_file(const std::string& from, const std::string& to) {
+    const auto file = open_for_reading(from);
+    if (!file) return tl::unexpected(file.error());
+    const auto there = find(to);
+    if (there && *there == *file) return permission_denied();
+    if (volume_of(from) != volume_of(to)) {
+        if (auto copied = write_fault(); !copied) return copied;
+        if ((*file)->fault == Fault::write_denied) return permission_denied();
+    }
+    return give_place(**file, to);
 }
 
 }  // namespace zephyne

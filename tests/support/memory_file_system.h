@@ -43,7 +43,6 @@ class MemoryFileSystem final : public FileSystem {
     // The same folder in a second place, as a mount can show it; it may lie inside itself there.
     void add_second_view(std::string_view path, std::string_view of);
     void remove(std::string_view path);  // a file, a folder with all in it, or a volume
-    void set_current_folder(std::string_view path);
 
     // Looking at it. A path is taken exactly as written.
     bool exists(std::string_view path) const;
@@ -52,7 +51,7 @@ class MemoryFileSystem final : public FileSystem {
     // Faults. Those of a path stay until allow(path).
     void deny(std::string_view path);          // reading, listing and writing: no permission
     void deny_listing(std::string_view path);  // of a folder whose files can be opened
-    void deny_writing(std::string_view path);  // a file's contents, or new files in a folder
+    void deny_writing(std::string_view path);  // a file, or what is done to a folder's members
     void hold_open(std::string_view path);     // "File already open" on every attempt to open it
     void vanish(std::string_view path);        // still listed, but not there when it is opened
     void allow(std::string_view path);
@@ -64,6 +63,7 @@ class MemoryFileSystem final : public FileSystem {
 
     PathStyle path_style() const override { return style_; }
     std::string current_folder() const override { return current_folder_; }
+    FileResult<void> set_current_folder(const std::string& folder) override;
     std::vector<Volume> volumes() const override;
     FileResult<std::vector<std::string>> list_files(const std::string& folder) const override;
     FileResult<std::vector<std::string>> list_folders(const std::string& folder) const override;
@@ -74,6 +74,10 @@ class MemoryFileSystem final : public FileSystem {
     FileResult<std::uint64_t> file_length(const std::string& path) const override;
     FileResult<std::string> read_file(const std::string& path, std::size_t limit) const override;
     FileResult<std::unique_ptr<OutputFile>> create_file(const std::string& path) override;
+    FileResult<void> replace_file(const std::string& path, std::string_view bytes) override;
+    FileResult<void> remove_file(const std::string& path) override;
+    FileResult<void> rename_file(const std::string& from, const std::string& to) override;
+    FileResult<void> move_file(const std::string& from, const std::string& to) override;
 
   private:
     struct Node;
@@ -88,6 +92,10 @@ class MemoryFileSystem final : public FileSystem {
     Node& folder_for(const std::vector<std::string>& parts);
     FileResult<Node*> find(const std::string& path) const;
     FileResult<Node*> open_for_reading(const std::string& path) const;
+    Node& folder_of(const Node& member) const;
+    FileResult<void> write_fault();
+    FileResult<void> give_place(Node& file, const std::string& to);
+    std::string volume_of(const std::string& path) const;
     FileResult<std::vector<std::string>> list(const std::string& folder, MemberKind wanted) const;
 
     PathStyle style_;
