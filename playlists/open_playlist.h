@@ -22,10 +22,4 @@ class OpenPlaylist {
     PlaylistLists lists_;
 };
 
-// The number of songs into the main window's counter.
-void show_song_count(Form1& form);
-
-// Lets pending events run and begins a new cycle, unless songs play only by hand.
-void start_new_songs(Stage& stage, PlayOrder& order);
-
 }  // namespace zephyne

@@ -6,7 +6,6 @@ namespace zephyne {
 namespace {
 
 const FileChoice kPlaylistFiles{"Playlist Files (*.lst)|*.lst|All Files (*.*)|*.*", ".lst"};
-constexpr std::size_t kLongFile = 1U << 20U;
 
 }  // namespace
 
@@ -23,12 +22,14 @@ std::optional<PlaylistText> PlaylistFile::choose_and_read() {
     }
     constexpr std::size_t limit = FileSystem::text_file_limit;
     const auto bytes = stage_.files.read_file(*path, limit + 1);
-    if (!bytes || bytes->empty() || bytes->size() > limit) {
+    PlaylistText playlist;
+    if (bytes && bytes->size() <= limit) {
+        playlist = read_playlist_text(*bytes, stage_.files.path_style());
+    }
+    if (playlist.state == PlaylistState::empty) {
         tell("Error Loading Playlist", "Error");
         return std::nullopt;
     }
-    if (bytes->size() > kLongFile) stage_.events.show();
-    PlaylistText playlist = read_playlist_text(*bytes, stage_.files.path_style());
     if (playlist.state == PlaylistState::wrong_header) {
         tell("Invalid Playlist", "Error");
         return std::nullopt;

@@ -54,6 +54,7 @@ PlaylistText read_playlist_text(std::string_view bytes, PathStyle style) {
         playlist.state = PlaylistState::wrong_header;
         return playlist;
     }
+    playlist.state = PlaylistState::damaged;
     while (!bytes.empty()) {
         const std::string_view line = take_line(bytes);
         if (line.find('|') == std::string_view::npos) return playlist;

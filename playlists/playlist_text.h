@@ -13,12 +13,13 @@ namespace zephyne {
 
 enum class PlaylistState {
     complete,
-    damaged,       // empty, or a line has no "|"; the entries before that line are there
+    empty,         // not even a header
+    damaged,       // a line has no "|"; the entries before that line are there
     wrong_header,  // no playlist
 };
 
 struct PlaylistText {
-    PlaylistState state = PlaylistState::damaged;
+    PlaylistState state = PlaylistState::empty;
     std::vector<std::string> entry_lines;  // in the order of the file
 };
 

@@ -362,8 +362,8 @@ class CountingRows final : public Rows {
                    std::size_t) const override {
         ++questions;
     }
-    void pressed(std::size_t) override {}
-    void moved_to(std::size_t) override {}
+    void pressed(std::size_t, ClickWith) override {}
+    void moved_to(std::size_t, ClickWith) override {}
 };
 
 TEST_F(MirrorTest, AHundredThousandRowsAreShownWithoutAskingForEach) {
