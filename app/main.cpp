@@ -20,6 +20,7 @@
 #include "platform/sound/synthesizer_engine.h"
 #include "platform/sound/synthesizer_volume.h"
 #include "platform/video/mpv_backend.h"
+#include "playlists/drive_search_window.h"
 #include "playlists/open_playlist.h"
 #include "playlists/playlist_editor.h"
 #include "playlists/playlist_file.h"
@@ -96,6 +97,7 @@ class Zephyne {
           open_playlist_(stage_, engine_.order, playlist_file_),
           playlist_editor_(stage_, engine_, scheduler, windows_, playlist_file_,
                            {audition_sequencer_, audition_wave_, audition_video_}),
+          drive_search_(stage_, scheduler, windows_),
           layout_(stage_, windows_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
           shut_down_(stage_, engine_) {
@@ -107,6 +109,9 @@ class Zephyne {
         };
         start_up_.choose_volume_device = [this] { volume_.start(); };
         start_up_.show_presets = [this] { presets_.show_tooltips(); };
+        playlist_editor_.show_drive_search = [this](EditedPlaylist& playlist) {
+            drive_search_.show(playlist);
+        };
         shut_down_.close_notes = [this] { notes_.unload(); };
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
@@ -150,6 +155,7 @@ class Zephyne {
     PlaylistFile playlist_file_;
     OpenPlaylist open_playlist_;
     PlaylistEditor playlist_editor_;
+    DriveSearchWindow drive_search_;
     MainWindowLayout layout_;
     StartUp start_up_;
     ShutDown shut_down_;

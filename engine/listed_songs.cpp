@@ -6,30 +6,22 @@
 #include <utility>
 
 namespace zephyne {
-namespace {
 
-bool is_listed(SongKind kind, const Settings& settings) {
-    switch (kind) {
-        case SongKind::midi:
-            return true;
-        case SongKind::wave:
-        case SongKind::video:
-            return settings.AllowWav == 1;
-        case SongKind::none:
-            break;
-    }
-    return false;
+bool is_listed(std::string_view name, const Settings& settings) {
+    const SongKind kind = song_kind(name);
+    return kind == SongKind::midi || (kind != SongKind::none && settings.AllowWav == 1);
 }
 
-}  // namespace
+std::string shown_name(const std::string& name, const Settings& settings) {
+    return settings.Lowercase == 1 ? capitalised(name) : name;
+}
 
 std::vector<ListItem> listed_songs(std::vector<std::string> names, const Settings& settings) {
-    const bool lower = settings.Lowercase == 1;
     std::vector<ListItem> songs;
     songs.reserve(names.size());
     for (std::string& name : names) {
-        if (!is_listed(song_kind(name), settings)) continue;
-        std::string shown = lower ? capitalised(name) : name;
+        if (!is_listed(name, settings)) continue;
+        std::string shown = shown_name(name, settings);
         if (shown == name) {
             songs.push_back({std::move(shown), {}});
         } else {

@@ -1,8 +1,8 @@
 #include "playlists/drive_search.h"
 
-#include "core/song_names.h"
 #include "core/text/key_sort.h"
 #include "core/text/letter_case.h"
+#include "engine/listed_songs.h"
 
 #include <utility>
 
@@ -47,7 +47,7 @@ bool DriveSearch::is_new(const std::string& folder) {
 }
 
 void DriveSearch::take(std::string_view file, const std::string& folder) {
-    if (!is_listed_song(file, settings_)) return;
+    if (!is_listed(file, settings_)) return;
     std::string with_end = with_separator(folder, files_.path_style());
     if (found_.folders.empty() || found_.folders.back() != with_end) {
         found_.folders.push_back(std::move(with_end));
