@@ -3,7 +3,7 @@
 #include "core/paths.h"
 #include "core/text/letter_case.h"
 
-#include <utility>
+#include <string_view>
 
 namespace zephyne {
 
@@ -16,17 +16,13 @@ std::string shown_name(const std::string& name, const Settings& settings) {
     return settings.Lowercase == 1 ? capitalised(name) : name;
 }
 
-std::vector<ListItem> listed_songs(std::vector<std::string> names, const Settings& settings) {
-    std::vector<ListItem> songs;
+ListRows listed_songs(const std::vector<std::string>& names, const Settings& settings) {
+    ListRows songs;
     songs.reserve(names.size());
-    for (std::string& name : names) {
+    for (const std::string& name : names) {
         if (!is_listed(name, settings)) continue;
-        std::string shown = shown_name(name, settings);
-        if (shown == name) {
-            songs.push_back({std::move(shown), {}});
-        } else {
-            songs.push_back({std::move(shown), std::move(name)});
-        }
+        const std::string shown = shown_name(name, settings);
+        songs.append({shown, shown == name ? std::string_view() : name});
     }
     return songs;
 }

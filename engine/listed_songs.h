@@ -1,7 +1,7 @@
 // Which files of a folder are songs, and how lists name them.
 #pragma once
 
-#include "core/controls/list_box.h"
+#include "core/controls/list_rows.h"
 #include "core/settings.h"
 
 #include <string>
@@ -17,6 +17,6 @@ bool is_listed(std::string_view name, const Settings& settings);
 std::string shown_name(const std::string& name, const Settings& settings);
 
 // The listed ones among these file names, in their order, each as shown and as it really is.
-std::vector<ListItem> listed_songs(std::vector<std::string> names, const Settings& settings);
+ListRows listed_songs(const std::vector<std::string>& names, const Settings& settings);
 
 }  // namespace zephyne

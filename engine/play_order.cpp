@@ -55,8 +55,8 @@ void PlayOrder::refill() {
 
 void PlayOrder::refill_without(std::size_t song) {
     Form1& f = stage_.form;
-    std::vector<ListItem> others = f.File1.items();
-    others.erase(others.begin() + static_cast<std::ptrdiff_t>(song));
+    ListRows others = f.File1.items();
+    others.erase(song);
     f.List1.set_items(std::move(others), Sorting::done);
     stage_.program.OrderIndex =
         runs_backwards(stage_.settings()) ? static_cast<std::int32_t>(f.List1.count()) - 1 : 0;
@@ -79,12 +79,12 @@ void PlayOrder::drop(const std::string& real_name) {
     }
 }
 
-void PlayOrder::rename(const std::string& real_name, ListItem renamed) {
+void PlayOrder::rename(const std::string& real_name, const ListItem& renamed) {
     ListBox& remaining = stage_.form.List1;
     const std::size_t before = remaining.count();
     drop(real_name);
     if (remaining.count() == before) return;
-    const std::size_t row = remaining.add(std::move(renamed));
+    const std::size_t row = remaining.add(renamed);
     if (static_cast<std::int32_t>(row) < stage_.program.OrderIndex) ++stage_.program.OrderIndex;
 }
 
@@ -138,7 +138,7 @@ void PlayOrder::select_in_list(const ListItem& entry) {
     auto found = songs.end();
     if (stage_.settings().Playlist == 0) found = std::find(songs.begin(), songs.end(), entry);
     if (found == songs.end()) {
-        found = std::find_if(songs.begin(), songs.end(), [&](const ListItem& song) {
+        found = std::find_if(songs.begin(), songs.end(), [&](const ListRow& song) {
             return song.text.starts_with(program.CurrentSongName);
         });
     }
@@ -188,7 +188,7 @@ void PlayOrder::play_next_queued() {
     Program& program = stage_.program;
     Form1& f = stage_.form;
     while (!f.List2.empty()) {
-        const std::string path = f.List2.item(0).text;
+        const std::string path(f.List2.item(0).text);
         f.List2.remove(0);
         if (!stage_.files.check_readable(path)) {
             stage_.events.pump();

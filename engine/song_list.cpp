@@ -5,8 +5,8 @@
 #include "engine/listed_songs.h"
 #include "engine/recent_songs.h"
 
+#include <string_view>
 #include <utility>
-#include <vector>
 
 namespace zephyne {
 namespace {
@@ -31,12 +31,12 @@ void SongList::refreshfiles() {
         const FlagGuard emptying(stage_.program.FindSync);
         f.text2.set_text("");
     }
-    auto names = stage_.files.list_files(f.Dir1.path());
+    const auto names = stage_.files.list_files(f.Dir1.path());
     // A long list takes a while to read, to name and to sort; the picture goes on in between.
     const bool is_long = names && names->size() > kLongList;
     if (is_long) stage_.events.show();
-    std::vector<ListItem> songs;
-    if (names) songs = listed_songs(std::move(*names), stage_.settings());
+    ListRows songs;
+    if (names) songs = listed_songs(*names, stage_.settings());
     if (is_long) stage_.events.show();
     f.File1.set_items(std::move(songs));
     if (is_long) stage_.events.show();

@@ -81,7 +81,8 @@ void DriveSearchWindow::Command1_Click(Opened& window) {
     for (Button* key : result_keys(f)) key->set_enabled(false);
     f.Command2.set_enabled(false);
     std::vector<std::string> lines;
-    for (const std::size_t row : f.List2.selected_rows()) lines.push_back(f.List3.item(row).text);
+    for (const std::size_t row : f.List2.selected_rows())
+        lines.emplace_back(f.List3.item(row).text);
     if (!lines.empty()) window.playlist.add(std::move(lines));
     window.playlist.Killdupes();
     window.playlist.playlistenable();

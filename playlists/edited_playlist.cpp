@@ -50,7 +50,7 @@ void EditedPlaylist::addtolist(const std::vector<std::size_t>& songs) {
             lines.push_back(std::move(line));
         }
     }
-    if (!lines.empty()) add(std::move(lines));
+    if (!lines.empty()) add(lines);
 }
 
 void EditedPlaylist::add_songs(const std::vector<std::size_t>& songs) {

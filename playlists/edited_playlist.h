@@ -23,7 +23,7 @@ class EditedPlaylist {
     void playlistenable();
 
     // Adds entry lines as they are, each to its place.
-    void add(std::vector<std::string> entry_lines) { lists_.add(std::move(entry_lines)); }
+    void add(const std::vector<std::string>& entry_lines) { lists_.add(entry_lines); }
 
     // Removes all but the first of entries with exactly the same name.
     void Killdupes() { lists_.Killdupes(); }

@@ -39,10 +39,10 @@ void EditorFolder::open() {
 
 void EditorFolder::refreshem() {
     last_folder_ = form_.Dir1.path();
-    auto names = stage_.files.list_files(last_folder_).value_or(std::vector<std::string>());
+    const auto names = stage_.files.list_files(last_folder_).value_or(std::vector<std::string>());
     const bool is_long = names.size() > kLongList;
     if (is_long) stage_.events.show();
-    auto songs = listed_songs(std::move(names), stage_.settings());
+    auto songs = listed_songs(names, stage_.settings());
     if (is_long) stage_.events.show();
     form_.List1.set_items(std::move(songs));
     form_.Label10.set_caption(counted(form_.List1, " items in directory."));

@@ -41,7 +41,7 @@ bool PlaylistFile::fill(PlaylistLists& lists, PlaylistText playlist) {
     drives_.apply(playlist.entry_lines);
     if (stage_.program.Ending) return false;
     lists.clear();
-    lists.add(std::move(playlist.entry_lines));
+    lists.add(playlist.entry_lines);
     if (playlist.state == PlaylistState::complete) return true;
     tell("Error Loading Playlist", "Error");
     return false;

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kLongList = 10'000;
 
-std::string_view name_of(const ListItem& line) {
+std::string_view name_of(const ListRow& line) {
     return split_entry_line(line.text).first;
 }
 
@@ -33,16 +33,16 @@ void PlaylistLists::clear() {
     lines_.clear();
 }
 
-void PlaylistLists::add(std::vector<std::string> entry_lines) {
-    std::vector<ListItem> lines = lines_.items();
+void PlaylistLists::add(const std::vector<std::string>& entry_lines) {
+    ListRows lines = lines_.items();
     lines.reserve(lines.size() + entry_lines.size());
-    for (std::string& line : entry_lines) lines.push_back({std::move(line), {}});
+    for (const std::string& line : entry_lines) lines.append({line, {}});
     lines_.set_items(std::move(lines));
     show_progress();
 
-    std::vector<ListItem> names;
+    ListRows names;
     names.reserve(count());
-    for (const ListItem& line : lines_.items()) names.push_back({std::string(name_of(line)), {}});
+    for (const ListRow& line : lines_.items()) names.append({name_of(line), {}});
     names_.set_items(std::move(names), Sorting::done);
     show_progress();
 }
@@ -55,7 +55,7 @@ void PlaylistLists::remove(const std::vector<std::size_t>& ascending) {
 
 void PlaylistLists::Killdupes() {
     std::vector<std::size_t> again;
-    const auto& names = names_.items();
+    const ListRows& names = names_.items();
     for (std::size_t row = 1; row < names.size(); ++row) {
         if (names[row].text == names[row - 1].text) again.push_back(row);
     }

@@ -35,7 +35,7 @@ class PlaylistLists {
     void clear();
 
     // Adds entry lines, each to its place. Deselects all names.
-    void add(std::vector<std::string> entry_lines);
+    void add(const std::vector<std::string>& entry_lines);
 
     // Of entries with exactly the same name only the first stays, the one whose folder sorts
     // first.

@@ -64,10 +64,10 @@ PlaylistText read_playlist_text(std::string_view bytes, PathStyle style) {
     return playlist;
 }
 
-std::string playlist_text_of(const std::vector<ListItem>& entry_lines) {
+std::string playlist_text_of(const ListRows& entry_lines) {
     std::string bytes(kHeader);
     bytes += kLineEnd;
-    for (const ListItem& line : entry_lines) bytes.append(line.text).append(kLineEnd);
+    for (const ListRow& line : entry_lines) bytes.append(line.text).append(kLineEnd);
     return bytes;
 }
 

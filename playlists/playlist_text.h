@@ -2,7 +2,7 @@
 // docs/formats/playlist.md describes it byte by byte.
 #pragma once
 
-#include "core/controls/list_box.h"
+#include "core/controls/list_rows.h"
 #include "core/paths.h"
 
 #include <string>
@@ -29,6 +29,6 @@ struct PlaylistText {
 PlaylistText read_playlist_text(std::string_view bytes, PathStyle style);
 
 // The bytes of a file with these rows as its entry lines.
-std::string playlist_text_of(const std::vector<ListItem>& entry_lines);
+std::string playlist_text_of(const ListRows& entry_lines);
 
 }  // namespace zephyne

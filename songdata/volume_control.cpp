@@ -38,6 +38,9 @@ VolumeControl::VolumeControl(Stage& stage, MidiOutVolume& volume) : stage_(stage
     f.Check1.set_on_click([this] { Check1_Click(); });
     f.Command14.set_on_click([this] { Command14_Click(); });
     f.Timer6.on_tick = [this] { Timer6_Timer(); };
+    stage_.services.apply_remembered_volume = [this](const std::string& song_path) {
+        apply_remembered(song_path);
+    };
 }
 
 // The same for both sliders: the one that moves takes the other along while they are locked. A

@@ -26,43 +26,41 @@ std::string ListBox::key_of(std::string_view text) const {
     return key;
 }
 
-std::vector<ListItem> ListBox::sorted(std::vector<ListItem> items) const {
-    if (order_ == ListOrder::as_added) return items;
+std::vector<std::uint32_t> ListBox::order_of(const ListRows& items) const {
     KeySort sort(items.size());
-    for (const ListItem& item : items) {
-        append_key(sort.bytes(), item.text);
+    for (const ListRow& row : items) {
+        append_key(sort.bytes(), row.text);
         sort.close_key();
     }
-    std::vector<ListItem> result;
-    result.reserve(items.size());
-    for (const std::uint32_t index : sort.order()) result.push_back(std::move(items[index]));
-    return result;
+    return sort.order();
 }
 
 void ListBox::mark_all(Mark mark) {
     if (selecting_ != Selecting::one) marks_.assign(items_.size(), mark);
 }
 
-void ListBox::set_items(std::vector<ListItem> items, Sorting sorting) {
-    items_ = sorting == Sorting::done ? std::move(items) : sorted(std::move(items));
+void ListBox::set_items(ListRows items, Sorting sorting) {
+    if (order_ != ListOrder::as_added && sorting == Sorting::needed) items.arrange(order_of(items));
+    items_ = std::move(items);
     selected_.reset();
     anchor_ = 0;
     mark_all(Mark::off);
     changed(Property::items);
 }
 
-std::size_t ListBox::add(ListItem item) {
+std::size_t ListBox::add(const ListItem& item) {
     std::size_t at = items_.size();
     if (order_ != ListOrder::as_added) {
         const std::string key = key_of(item.text);
         const auto place = std::upper_bound(
             items_.begin(), items_.end(), key,
-            [&](const std::string& k, const ListItem& other) { return k < key_of(other.text); });
+            [&](const std::string& k, const ListRow& other) { return k < key_of(other.text); });
         at = static_cast<std::size_t>(place - items_.begin());
     }
-    const auto offset = static_cast<std::ptrdiff_t>(at);
-    items_.insert(items_.begin() + offset, std::move(item));
-    if (selecting_ != Selecting::one) marks_.insert(marks_.begin() + offset, Mark::off);
+    items_.insert(at, item);
+    if (selecting_ != Selecting::one) {
+        marks_.insert(marks_.begin() + static_cast<std::ptrdiff_t>(at), Mark::off);
+    }
     if (selected_ && *selected_ >= at) ++*selected_;
     if (anchor_ >= at) ++anchor_;
     changed(Property::items);
@@ -86,19 +84,19 @@ void ListBox::remove_rows(const std::vector<std::size_t>& ascending) {
     }
     anchor_ -= rows_before(anchor_);
 
-    std::size_t kept = ascending.front();
+    std::vector<std::uint32_t> kept;
+    kept.reserve(items_.size());
     auto next = ascending.begin();
-    for (std::size_t row = kept; row < items_.size(); ++row) {
+    for (std::size_t row = 0; row < items_.size(); ++row) {
         if (next != ascending.end() && *next == row) {
             ++next;
             continue;
         }
-        items_[kept] = std::move(items_[row]);
-        if (selecting_ != Selecting::one) marks_[kept] = marks_[row];
-        ++kept;
+        if (selecting_ != Selecting::one) marks_[kept.size()] = marks_[row];
+        kept.push_back(static_cast<std::uint32_t>(row));
     }
-    items_.resize(kept);
-    if (selecting_ != Selecting::one) marks_.resize(kept);
+    items_.arrange(kept);
+    if (selecting_ != Selecting::one) marks_.resize(kept.size());
     changed(Property::items);
 }
 
@@ -185,7 +183,7 @@ std::size_t ListBox::lower_bound(std::string_view text) const {
     const std::string key = collation_prefix(text);
     const auto place = std::lower_bound(
         items_.begin(), items_.end(), key,
-        [&](const ListItem& item, const std::string& k) { return key_of(item.text) < k; });
+        [&](const ListRow& item, const std::string& k) { return key_of(item.text) < k; });
     return static_cast<std::size_t>(place - items_.begin());
 }
 

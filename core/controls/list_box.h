@@ -1,29 +1,21 @@
 // A list of texts with one selected row or several, kept in order or as filled.
 //
-// A row keeps, beside the text it shows, the name that the file really has on disk: where two
-// files differ only in the case of letters, their rows look the same and are not.
-//
 // Long lists are filled by set_items(), which sorts once; 100,000 rows are ordinary.
 #pragma once
 
 #include "core/controls/control.h"
+#include "core/controls/list_rows.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zephyne {
-
-struct ListItem {
-    std::string text;
-    std::string real_name;  // "" where it is the text itself
-
-    const std::string& real() const { return real_name.empty() ? text : real_name; }
-    bool operator==(const ListItem&) const = default;
-};
 
 enum class ListOrder {
     as_added,
@@ -59,13 +51,13 @@ class ListBox final : public Control {
 
     std::size_t count() const { return items_.size(); }
     bool empty() const { return items_.empty(); }
-    const std::vector<ListItem>& items() const { return items_; }
-    const ListItem& item(std::size_t index) const { return items_[index]; }
+    const ListRows& items() const { return items_; }
+    const ListRow& item(std::size_t index) const { return items_[index]; }
 
     // All of these clear or keep the selection silently: a selected row stays selected while it is
     // there, except that set_items() deselects all.
-    void set_items(std::vector<ListItem> items, Sorting sorting = Sorting::needed);
-    std::size_t add(ListItem item);  // to its place in the order; returns that place
+    void set_items(ListRows items, Sorting sorting = Sorting::needed);
+    std::size_t add(const ListItem& item);  // to its place in the order; returns that place
     void remove(std::size_t index);
     void remove_rows(const std::vector<std::size_t>& ascending);  // linear in the list's length
     void clear();
@@ -106,7 +98,7 @@ class ListBox final : public Control {
 
     void append_key(std::string& key, std::string_view text) const;
     std::string key_of(std::string_view text) const;
-    std::vector<ListItem> sorted(std::vector<ListItem> items) const;
+    std::vector<std::uint32_t> order_of(const ListRows& items) const;
     bool takes_user(std::size_t index) const;
     void mark_all(Mark mark);
     void mark_click(std::size_t index, ClickWith key);
@@ -114,7 +106,7 @@ class ListBox final : public Control {
     ListOrder order_;
     EntrySplitter splitter_;
     Selecting selecting_ = Selecting::one;
-    std::vector<ListItem> items_;
+    ListRows items_;
     std::vector<Mark> marks_;  // of each row; none in a list with one selected row
     std::optional<std::size_t> selected_;
     std::size_t anchor_ = 0;  // where a range begins

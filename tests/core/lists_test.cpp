@@ -51,8 +51,8 @@ TEST(SortedList, FilledInBulkOrOneByOneItHoldsTheSameRowsInOrder) {
         ASSERT_EQ(lists.bulk.items(), lists.one_by_one.items());
         ASSERT_EQ(lists.bulk.count(), items.size());
         for (std::size_t i = 1; i < items.size(); ++i) {
-            const std::string above = lists.bulk.item(i - 1).text;
-            const std::string below = lists.bulk.item(i).text;
+            const std::string above(lists.bulk.item(i - 1).text);
+            const std::string below(lists.bulk.item(i).text);
             ASSERT_LE(collation_key(above), collation_key(below)) << above << " before " << below;
         }
     }
@@ -86,7 +86,7 @@ TEST(SortedList, OrdersEntriesByNameThenFolder) {
         lists.entries.add({entry, {}});
     }
     std::vector<std::string> order;
-    for (const ListItem& item : lists.entries.items()) order.push_back(item.text);
+    for (const ListRow& row : lists.entries.items()) order.emplace_back(row.text);
     EXPECT_EQ(order,
               (std::vector<std::string>{"a.mid|/B/", "a.mid|/b/", "a.mid|/z/", "a.mid.mid|/1/",
                                         "a|b.mid|/c/", "B.mid|/1/", "b.mid|/2/"}));
@@ -99,6 +99,19 @@ TEST(SortedList, RowsThatLookTheSameKeepTheirRealNames) {
     EXPECT_EQ(lists.bulk.item(1).real(), "SONG.mid");
     EXPECT_EQ(lists.bulk.item(2).real(), "song.mid");
     EXPECT_EQ(lists.bulk.add({"Song.mid", "Song.MID"}), 3U) << "behind its likes";
+}
+
+TEST(AnyList, ItsRowsCanBeCopiedAndOutliveTheListThatTheyCameFrom) {
+    Lists lists;
+    lists.bulk.set_items({{"b.mid", "B.MID"}, {"a.mid", {}}, {"c.mid", {}}});
+    lists.queue.set_items(lists.bulk.items());
+    lists.bulk.add(lists.bulk.item(1));
+    lists.bulk.set_items({{"other.mid", {}}});
+    lists.queue.remove(0);
+    lists.queue.add(lists.queue.item(0));
+    EXPECT_EQ(lists.queue.items(),
+              ListRows({{"b.mid", "B.MID"}, {"c.mid", {}}, {"b.mid", "B.MID"}}));
+    EXPECT_EQ(lists.bulk.items(), ListRows({{"other.mid", {}}}));
 }
 
 TEST(SortedList, FindsTheFirstRowThatBeginsWithATextInAnyCase) {

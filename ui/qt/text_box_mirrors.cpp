@@ -74,7 +74,10 @@ void TextLineMirror::show_selection() {
 
 void TextLineMirror::show_text() {
     const QString text = shown(text_box_.text());
-    if (text != edit_->text()) edit_->setText(text);
+    if (text == edit_->text()) return;
+    edit_->setText(text);
+    // A long text shows its beginning, unless the user is at work in it.
+    if (!edit_->hasFocus()) edit_->setCursorPosition(0);
 }
 
 void TextLineMirror::laid_out() {
