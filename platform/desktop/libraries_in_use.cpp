@@ -8,7 +8,9 @@
 namespace zephyne {
 
 std::vector<std::string> libraries_in_use() {
-    return {std::string("Qt ") + qVersion(), std::string("FluidSynth ") + fluid_version_str(),
+    const char* synthesizer = fluid_version_str();
+    return {std::string("Qt ") + qVersion(),
+            std::string("FluidSynth ") + (synthesizer ? synthesizer : "(not loaded)"),
             "mpv, for wave and video files", std::string("utf8proc ") + utf8proc_version()};
 }
 
