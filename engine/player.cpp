@@ -1,5 +1,6 @@
 #include "engine/player.h"
 
+#include "core/sidecar.h"
 #include "engine/recent_songs.h"
 
 namespace zephyne {
@@ -7,6 +8,11 @@ namespace {
 
 constexpr Milliseconds kLastSeconds = 10;
 constexpr Milliseconds kLastSecondsBlink = 500;
+
+bool has_note(const FileSystem& files, const std::string& song_path) {
+    const Sidecar note = find_sidecar(files, song_path, ".nte");
+    return note.there && files.check_readable(note.path);
+}
 
 }  // namespace
 
@@ -41,7 +47,7 @@ void Player::PlayFile() {
     stage_.device.Type = *type;
 
     if (from_start && stage_.settings().AutoNotes == 1 && services.show_note &&
-        stage_.files.check_readable(sidecar_path(path, ".nte"))) {
+        has_note(stage_.files, path)) {
         services.show_note(path);
     }
     if (services.apply_remembered_volume) services.apply_remembered_volume(path);

@@ -20,6 +20,8 @@ namespace zephyne {
 struct SongServices {
     std::function<void(const std::string& song_path)> show_note;  // the song has one: open it
     std::function<void(const std::string& song_path)> apply_remembered_volume;
+    std::function<void(const std::string& from, const std::string& to)> song_renamed;
+    std::function<void(const std::string& song_path)> song_deleted;
     std::function<void()> getsonginfo;      // the summary of the current song, into Text1
     std::function<void()> release_presets;  // no preset key stays down
     std::function<void()> setvolume;        // the sound follows the volume sliders

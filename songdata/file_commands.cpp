@@ -1,6 +1,8 @@
 #include "songdata/file_commands.h"
 
+#include "core/sidecar.h"
 #include "core/text/letter_case.h"
+#include "core/text/utf8.h"
 
 #include <algorithm>
 #include <string_view>
@@ -59,41 +61,55 @@ FileCommands::FileCommands(Stage& stage, Engine& engine, Questions& questions,
     f.Command24.set_on_click([this] { Command24_Click(); });
 }
 
+// What the user has chosen to act on. The question about it is answered later, and meanwhile the
+// song may end, another may be handed over, and the folder may change.
+FileCommands::Choice FileCommands::selected_song() const {
+    const Form1& f = stage_.form;
+    const ListItem song = f.File1.item(*f.File1.selected());
+    return {song, f.Dir1.path(), joined(f.Dir1.path(), song.real(), stage_.files.path_style()),
+            stage_.program.CurrentSongPath};
+}
+
+bool FileCommands::still_here(const Choice& choice) const {
+    return stage_.form.Dir1.path() == choice.folder &&
+           stage_.program.CurrentSongPath == choice.played_then;
+}
+
+void FileCommands::rebuild_list() {
+    const FlagGuard switching(stage_.program.SwitchingSong);
+    engine_.songs.refreshfiles();
+}
+
 void FileCommands::renamefile() {
     Program& program = stage_.program;
     Form1& f = stage_.form;
     if (program.SwitchingSong || f.File1.empty() || !f.File1.selected()) return;
-    const ListItem old = f.File1.item(*f.File1.selected());
+    const Choice choice = selected_song();
 
     std::string proposal = name_from_text(f.Text1.selected_text());
-    if (proposal.empty()) proposal = old.text;
+    if (proposal.empty()) proposal = to_utf8(choice.song.text);
     if (!has_song_extension(proposal)) proposal += ".mid";
     std::string name = questions_.ask("Rename File To:", "Rename File", proposal);
-    if (name.empty()) return;
-    if (!has_song_extension(name)) name += extension_of(old.real());
+    if (name.empty() || program.Ending) return;
+    if (!has_song_extension(name)) name += extension_of(choice.path);
 
-    const PathStyle style = stage_.files.path_style();
-    const std::string from = joined(f.Dir1.path(), old.real(), style);
-    const std::string to = joined(f.Dir1.path(), name, style);
-    if (const auto renamed = stage_.files.rename_file(from, to); !renamed) {
+    const Sidecar note = find_sidecar(stage_.files, choice.path, ".nte");
+    const std::string to = joined(choice.folder, name, stage_.files.path_style());
+    if (const auto renamed = stage_.files.rename_file(choice.path, to); !renamed) {
         stage_.messages.ShowDlgMessage(file_error_text("Error Renaming File - ", renamed.error()),
                                        0, "Error on Rename");
         return;
     }
-    (void)stage_.files.rename_file(sidecar_path(from, ".nte"), sidecar_path(to, ".nte"));
-    {
-        const FlagGuard switching(program.SwitchingSong);
-        engine_.songs.refreshfiles();
-    }
+    if (note.there) (void)stage_.files.rename_file(note.path, sidecar_path(to, ".nte"));
+    if (stage_.services.song_renamed) stage_.services.song_renamed(choice.path, to);
+    const bool same_song = still_here(choice);
+    rebuild_list();
     program.PausedByUser = false;
-    show_renamed(old.real(), name);
+    show_renamed(choice, name, same_song ? MakeCurrent::yes : MakeCurrent::no);
 }
 
-// The renamed song is the current one from now on, unless it is no song any more.
-void FileCommands::show_renamed(const std::string& old_name, const std::string& name) {
-    Program& program = stage_.program;
-    Form1& f = stage_.form;
-    const auto& songs = f.File1.items();
+std::optional<std::size_t> FileCommands::row_of(const std::string& name) const {
+    const auto& songs = stage_.form.File1.items();
     auto found = std::find_if(songs.begin(), songs.end(),
                               [&](const ListRow& song) { return song.real() == name; });
     if (found == songs.end()) {
@@ -101,16 +117,36 @@ void FileCommands::show_renamed(const std::string& old_name, const std::string& 
             return equal_ignoring_case(song.text, name);
         });
     }
-    if (found != songs.end()) {
-        const FlagGuard switching(program.SwitchingSong);
-        f.File1.set_selected(static_cast<std::size_t>(found - songs.begin()));
-        engine_.order.rename(old_name, *found);
+    if (found == songs.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - songs.begin());
+}
+
+// The renamed song is the current one from now on, unless it is no song any more, or another has
+// become current while its new name was being typed.
+void FileCommands::show_renamed(const Choice& choice, const std::string& name, MakeCurrent make) {
+    Program& program = stage_.program;
+    Form1& f = stage_.form;
+    const auto row = f.Dir1.path() == choice.folder ? row_of(name) : std::nullopt;
+    if (row) {
+        engine_.order.rename(choice.song.real(), f.File1.item(*row));
+    } else {
+        engine_.order.drop(choice.song.real());
+    }
+    if (make == MakeCurrent::no) return engine_.between.select_current_song();
+    if (row) {
+        {
+            const FlagGuard switching(program.SwitchingSong);
+            f.File1.set_selected(row);
+        }
         program.CurrentSongName = name;
-        program.CurrentSongPath = joined(f.Dir1.path(), name, stage_.files.path_style());
-        if (stage_.device.Mode() == DeviceMode::playing) engine_.player.show_playing();
+        program.CurrentSongPath = joined(choice.folder, name, stage_.files.path_style());
+        if (stage_.device.Mode() != DeviceMode::playing) return;
+        engine_.player.show_playing();
+        if (program.settings.Extended == 1 && stage_.services.getsonginfo) {
+            stage_.services.getsonginfo();  // it begins with the path
+        }
         return;
     }
-    engine_.order.drop(old_name);
     engine_.player.StopDevice();
     program.SwitchingSong = false;
     program.ResumePosition = 0;
@@ -119,39 +155,46 @@ void FileCommands::show_renamed(const std::string& old_name, const std::string& 
 
 void FileCommands::Command4_Click() {
     Program& program = stage_.program;
-    Form1& f = stage_.form;
     if (program.SwitchingSong) return;
     const bool queueing = program.settings.Mode == PlayMode::Queue;
-    std::string name;
-    std::string path;
-    if (queueing) {
-        name = path = program.CurrentSongPath;
-        if (path.empty()) {
-            stage_.messages.ShowDlgMessage("No file to delete!", 0, "Error");
-            return;
-        }
-    } else {
-        if (!f.File1.selected()) return;
-        const ListItem song = f.File1.item(*f.File1.selected());
-        name = song.text;
-        path = joined(f.Dir1.path(), song.real(), stage_.files.path_style());
+    if (queueing && program.CurrentSongPath.empty()) {
+        stage_.messages.ShowDlgMessage("No file to delete!", 0, "Error");
+        return;
     }
+    if (!queueing && !stage_.form.File1.selected()) return;
+    const Choice choice = queueing ? Choice{{program.CurrentSongPath, {}},
+                                            stage_.form.Dir1.path(),
+                                            program.CurrentSongPath,
+                                            program.CurrentSongPath}
+                                   : selected_song();
     const Answer answer = stage_.messages.ShowDlgMessage(
-        "Are you sure you want to delete " + name + "?", 1, "Please Verify Delete...");
-    if (answer != Answer::yes) return;
-    if (const auto removed = stage_.files.remove_file(path); !removed) {
+        "Are you sure you want to delete " + choice.song.text + "?", 1, "Please Verify Delete...");
+    if (answer != Answer::yes || program.Ending) return;
+
+    const Sidecar note = find_sidecar(stage_.files, choice.path, ".nte");
+    if (const auto removed = stage_.files.remove_file(choice.path); !removed) {
         stage_.messages.ShowDlgMessage(file_error_text("Error on Delete - ", removed.error()), 0,
                                        "Error on Delete");
         return;
     }
-    (void)stage_.files.remove_file(sidecar_path(path, ".nte"));
+    if (note.there) (void)stage_.files.remove_file(note.path);
+    if (stage_.services.song_deleted) stage_.services.song_deleted(choice.path);
+    if (!still_here(choice)) return forget_deleted(choice);
     program.SwitchingSong = false;
     engine_.player.StopDevice();
     program.PausedByUser = false;
-    after_delete(path);
+    after_delete(choice);
 }
 
-void FileCommands::after_delete(const std::string& path) {
+// Another song has begun meanwhile, and goes on.
+void FileCommands::forget_deleted(const Choice& choice) {
+    if (stage_.settings().Mode == PlayMode::Queue) return;
+    engine_.order.drop(choice.song.real());
+    rebuild_list();
+    engine_.between.select_current_song();
+}
+
+void FileCommands::after_delete(const Choice& choice) {
     Program& program = stage_.program;
     Form1& f = stage_.form;
     if (program.settings.Mode == PlayMode::Queue) {
@@ -166,10 +209,13 @@ void FileCommands::after_delete(const std::string& path) {
     if (manual) {
         f.File1.set_selected(std::nullopt);
     } else {
-        engine_.order.drop(split_path(path, stage_.files.path_style()).name);
+        engine_.order.drop(choice.song.real());
     }
     engine_.songs.refreshfiles();
-    if (f.File1.empty() && program.settings.Extended == 1) f.Text1.set_text("");
+    if (f.File1.empty()) {
+        program.CurrentSongPath.clear();  // so that a summary under way does not come back
+        if (program.settings.Extended == 1) f.Text1.set_text("");
+    }
     if (manual) return;
     engine_.display.rewind_slider();
     engine_.order.PlayNextSong();
@@ -179,7 +225,9 @@ std::string FileCommands::folder_of_current_song() {
     const std::string& path = stage_.program.CurrentSongPath;
     if (!path.empty()) {
         const std::string folder = folder_of_song(path, stage_.files.path_style());
-        return folder.empty() ? path.substr(0, 1) + ":\\" : folder;
+        if (!folder.empty()) return folder;
+        if (stage_.files.path_style() == PathStyle::windows) return path.substr(0, 1) + ":\\";
+        return stage_.files.current_folder();
     }
     stage_.messages.ShowDlgMessage("No file playing - using current directory.", 0, "No File");
     return stage_.files.current_folder();

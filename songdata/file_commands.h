@@ -5,6 +5,7 @@
 #include "engine/stage.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 namespace zephyne {
@@ -29,9 +30,22 @@ class FileCommands {
     void renamefile();
 
   private:
-    void show_renamed(const std::string& old_name, const std::string& name);
+    struct Choice {
+        ListItem song;
+        std::string folder;
+        std::string path;
+        std::string played_then;  // what was the current song
+    };
+    enum class MakeCurrent { no, yes };
+
+    Choice selected_song() const;
+    bool still_here(const Choice& choice) const;
+    std::optional<std::size_t> row_of(const std::string& name) const;
+    void rebuild_list();
+    void show_renamed(const Choice& choice, const std::string& name, MakeCurrent make);
     void Command4_Click();
-    void after_delete(const std::string& path);
+    void forget_deleted(const Choice& choice);
+    void after_delete(const Choice& choice);
     std::string folder_of_current_song();
     void Command22_Click();
     void Command23_Click();

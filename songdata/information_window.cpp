@@ -99,7 +99,7 @@ void InformationWindow::Form_Activate(Form3& form) {
 
 bool InformationWindow::let_events_run(const Form3& form) {
     stage_.events.pump();
-    return form.loaded();
+    return form.loaded() && !stage_.program.Ending;
 }
 
 void InformationWindow::fill(Form3& form) {

@@ -1,5 +1,6 @@
 #include "songdata/move_file.h"
 
+#include "core/text/utf8.h"
 #include "songdata/file_commands.h"
 
 #include <utility>
@@ -19,6 +20,7 @@ void MoveFile::Command5_Click() {
         return;
     }
     if (program.settings.Mode != PlayMode::Queue && !stage_.form.File1.selected()) return;
+    played_then_ = program.CurrentSongPath;
     if (find_source()) show();
 }
 
@@ -52,6 +54,7 @@ void MoveFile::show() {
     if (!settings.MoveToDir.empty()) {
         (void)form.Drive1.set_drive_of(settings.MoveToDir);
         (void)form.Dir1.set_path(settings.MoveToDir);
+        form.Drive1.follow(form.Dir1.path());
     }
     form.Label1.set_caption(source_);
     show_destination();
@@ -76,7 +79,8 @@ void MoveFile::show() {
 
 void MoveFile::show_destination() {
     const std::string& folder = form_->Dir1.path();
-    form_->Text1.set_text(joined(folder, name_, stage_.files.path_style()));
+    destination_ = joined(folder, name_, stage_.files.path_style());
+    form_->Text1.set_text(to_utf8(destination_));
     ListRows rows;
     if (const auto names = stage_.files.list_files(folder)) {
         for (const std::string& name : *names) rows.append({name, {}});
@@ -94,8 +98,10 @@ void MoveFile::move_it() {
     Settings& settings = stage_.settings();
     settings.F6Left = form_->place().left;
     settings.F6Top = form_->place().top;
-    const std::string destination = form_->Text1.text();
-    if (destination.empty()) return;
+    // What the user has not touched keeps the bytes of its name.
+    const std::string& wanted = form_->Text1.text();
+    if (wanted.empty()) return;
+    const std::string destination = wanted == to_utf8(destination_) ? destination_ : wanted;
     if (const auto moved = stage_.files.move_file(source_, destination); !moved) {
         std::string text = file_error_text("Error on Move - ", moved.error());
         if (moved.error().kind == FileErrorKind::permission_denied) {
@@ -107,38 +113,32 @@ void MoveFile::move_it() {
     settings.MoveToDir = form_->Dir1.path();
     stage_.program.ResumePosition = 0;
     stage_.program.PausedByUser = false;
-    after_move(destination);
+    after_move(stage_.files.resolve(destination).value_or(destination));
     form_->request_unload(CloseReason::program);
 }
 
 void MoveFile::after_move(const std::string& destination) {
     Program& program = stage_.program;
     Form1& f = stage_.form;
+    const bool same_song = program.CurrentSongPath == played_then_;
     if (program.settings.Mode == PlayMode::Queue) {
-        program.CurrentSongName = program.CurrentSongPath = destination;
+        if (same_song) program.CurrentSongName = program.CurrentSongPath = destination;
         stage_.messages.ShowDlgMessage(
             "File was moved to directory " + folder_of_song(destination, stage_.files.path_style()),
             0, "Move Successful.");
         return;
     }
-    const bool manual = program.settings.Mode == PlayMode::Manual;
-    const auto refresh = [&] {
-        const FlagGuard switching(program.SwitchingSong);
-        engine_.songs.refreshfiles();
-    };
-    if (f.List1.empty()) {
-        engine_.player.StopDevice();
-        stage_.events.pump();
-        refresh();
-        f.Label2.set_caption("");
-        if (!manual) f.Label4.set_caption("");
-    } else if (manual) {
+    form_->set_visible(false);
+    if (!same_song) {
+        forget_moved();
+    } else if (f.List1.empty()) {
+        stop_and_clear();
+    } else if (program.settings.Mode == PlayMode::Manual) {
         f.File1.set_selected(std::nullopt);
-        refresh();
+        rebuild_list();
     } else {
         engine_.order.drop(name_);
-        refresh();
-        form_->set_visible(false);
+        rebuild_list();
         stage_.events.pump();
         engine_.display.rewind_slider();
         engine_.order.PlayNextSong();
@@ -146,6 +146,27 @@ void MoveFile::after_move(const std::string& destination) {
     if (!f.File1.empty()) return;
     if (stage_.shows_tray()) stage_.tray.mnuNext.enabled = false;
     f.Text1.set_text("");
+}
+
+void MoveFile::rebuild_list() {
+    const FlagGuard switching(stage_.program.SwitchingSong);
+    engine_.songs.refreshfiles();
+}
+
+// Another song has begun while the window was open, and goes on.
+void MoveFile::forget_moved() {
+    engine_.order.drop(name_);
+    rebuild_list();
+    engine_.between.select_current_song();
+}
+
+void MoveFile::stop_and_clear() {
+    Form1& f = stage_.form;
+    engine_.player.StopDevice();
+    stage_.events.pump();
+    rebuild_list();
+    f.Label2.set_caption("");
+    if (stage_.settings().Mode != PlayMode::Manual) f.Label4.set_caption("");
 }
 
 }  // namespace zephyne

@@ -25,6 +25,9 @@ class MoveFile {
     void Drive1_Change();
     void move_it();
     void after_move(const std::string& destination);
+    void rebuild_list();
+    void forget_moved();
+    void stop_and_clear();
 
     Stage& stage_;
     Engine& engine_;
@@ -32,6 +35,8 @@ class MoveFile {
     Form6* form_ = nullptr;  // while it is open
     std::string source_;     // full path
     std::string name_;
+    std::string destination_;  // as the window proposes it
+    std::string played_then_;  // what was the current song when the window opened
 };
 
 }  // namespace zephyne

@@ -159,7 +159,8 @@ void Presets::use(std::size_t index) {
     program.SwitchingSong = true;
     const std::string folder = f.Dir1.path();
     const std::size_t drive = f.Drive1.selected();
-    const std::string selected(f.File1.selected() ? f.File1.item(*f.File1.selected()).text : "");
+    std::optional<ListItem> selected;
+    if (f.File1.selected()) selected = f.File1.item(*f.File1.selected());
     if (!go_to_folder(index)) return path_not_found(index, folder, drive, selected);
 
     const bool moved = f.Dir1.path() != folder;
@@ -225,10 +226,10 @@ void Presets::play_song(std::size_t index, const std::string& path, bool moved) 
     release_all();
 }
 
+// The message comes last: what ends or arrives while it is open finds everything in its place.
 void Presets::path_not_found(std::size_t index, const std::string& folder, std::size_t drive,
-                             const std::string& selected) {
+                             const std::optional<ListItem>& selected) {
     Form1& f = stage_.form;
-    stage_.messages.ShowDlgMessage("Path Not Found for this Preset - Clearing Preset", 0, "Error");
     empty(index);
     if (drive < f.Drive1.volumes().size()) {
         (void)f.Drive1.set_drive_of(f.Drive1.volumes()[drive].root);
@@ -236,18 +237,18 @@ void Presets::path_not_found(std::size_t index, const std::string& folder, std::
     (void)f.Dir1.set_path(folder);
     engine_.songs.refreshfiles();
     const auto& songs = f.File1.items();
-    const auto found = std::find_if(songs.begin(), songs.end(),
-                                    [&](const ListRow& song) { return song.text == selected; });
+    const auto found = std::find_if(songs.begin(), songs.end(), [&](const ListRow& song) {
+        return selected && song == *selected;
+    });
     if (found != songs.end()) {
         f.File1.set_selected(static_cast<std::size_t>(found - songs.begin()));
     }
     stage_.program.SwitchingSong = false;
     release_all();
+    stage_.messages.ShowDlgMessage("Path Not Found for this Preset - Clearing Preset", 0, "Error");
 }
 
 void Presets::file_not_found(std::size_t index, bool moved) {
-    stage_.messages.ShowDlgMessage("File Not Found for this Preset - Setting to path only", 0,
-                                   "Error");
     stage_.settings().PresetFileName[index].clear();
     show_tooltip(index);
     stage_.program.SwitchingSong = false;
@@ -259,6 +260,8 @@ void Presets::file_not_found(std::size_t index, bool moved) {
         engine_.player.StopDevice();
     }
     release_all();
+    stage_.messages.ShowDlgMessage("File Not Found for this Preset - Setting to path only", 0,
+                                   "Error");
 }
 
 void Presets::Command17_Click() {

@@ -38,7 +38,7 @@ class Presets {
     void play_folder(bool moved);
     void play_song(std::size_t index, const std::string& path, bool moved);
     void path_not_found(std::size_t index, const std::string& folder, std::size_t drive,
-                        const std::string& selected);
+                        const std::optional<ListItem>& selected);
     void file_not_found(std::size_t index, bool moved);
     void Command17_Click();
     void show_tooltip(std::size_t index);

@@ -1,5 +1,6 @@
 #include "songdata/song_notes.h"
 
+#include "core/sidecar.h"
 #include "core/text/utf8.h"
 
 #include <utility>
@@ -9,6 +10,10 @@ namespace zephyne {
 SongNotes::SongNotes(Stage& stage, WindowHost& windows) : stage_(stage), windows_(windows) {
     stage_.form.Command7.set_on_click([this] { Command7_Click(); });
     stage_.services.show_note = [this](const std::string&) { show(); };
+    stage_.services.song_renamed = [this](const std::string& from, const std::string& to) {
+        song_renamed(from, to);
+    };
+    stage_.services.song_deleted = [this](const std::string& path) { song_deleted(path); };
 }
 
 SongNotes::~SongNotes() {
@@ -43,8 +48,10 @@ void SongNotes::Form_Load() {
     f.move_to(settings.F4Left != 0 ? settings.F4Left : stage_.form.place().left + 900,
               settings.F4Top != 0 ? settings.F4Top : stage_.form.place().top + 900);
     f.Label2.set_caption(stage_.program.CurrentSongName + " ");
-    note_path_ = sidecar_path(stage_.program.CurrentSongPath, ".nte");
-    if (const auto note = stage_.files.read_file(note_path_, FileSystem::text_file_limit)) {
+    song_path_ = stage_.program.CurrentSongPath;
+    const Sidecar file = find_sidecar(stage_.files, song_path_, ".nte");
+    if (const auto note = stage_.files.read_file(file.path, FileSystem::text_file_limit);
+        file.there && note) {
         f.Text1.set_text(to_utf8(*note));
     }
     closing_handled_ = false;
@@ -64,7 +71,7 @@ void SongNotes::close(Closing how) {
         case Closing::discard:
             break;
         case Closing::delete_note:
-            (void)stage_.files.remove_file(note_path_);
+            remove_note();
             break;
     }
     form_->request_unload(CloseReason::program);
@@ -73,8 +80,25 @@ void SongNotes::close(Closing how) {
 // An empty box is never written: only "Delete" removes a note.
 void SongNotes::save() const {
     const std::string& text = form_->Text1.text();
-    if (text.empty() || note_path_.empty()) return;
-    (void)stage_.files.replace_file(note_path_, text + "\r\n");
+    const Sidecar file = find_sidecar(stage_.files, song_path_, ".nte");
+    if (!text.empty() && !file.path.empty()) {
+        (void)stage_.files.replace_file(file.path, text + "\r\n");
+    }
+}
+
+void SongNotes::remove_note() const {
+    const Sidecar file = find_sidecar(stage_.files, song_path_, ".nte");
+    if (file.there) (void)stage_.files.remove_file(file.path);
+}
+
+void SongNotes::song_renamed(const std::string& from, const std::string& to) {
+    if (!form_ || song_path_ != from) return;
+    song_path_ = to;
+    form_->Label2.set_caption(split_path(to, stage_.files.path_style()).name + " ");
+}
+
+void SongNotes::song_deleted(const std::string& song_path) {
+    if (form_ && song_path_ == song_path) close(Closing::discard);
 }
 
 void SongNotes::Form_Unload() {

@@ -28,16 +28,19 @@ class SongNotes {
   private:
     enum class Closing { save, discard, delete_note };
 
+    void song_renamed(const std::string& from, const std::string& to);
+    void song_deleted(const std::string& song_path);
     void Form_Load();
     void Form_Unload();
     void close(Closing how);
     void save() const;
+    void remove_note() const;
 
     Stage& stage_;
     WindowHost& windows_;
     std::unique_ptr<Form4> form_;
     std::unique_ptr<Form4> leaving_;  // closed, but its handler may be on the stack
-    std::string note_path_;           // of the song that it was opened for
+    std::string song_path_;           // of the song that it was opened for
     bool closing_handled_ = false;
 };
 

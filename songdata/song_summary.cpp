@@ -32,18 +32,23 @@ void SongSummary::getsonginfo() {
     // start at a depth that an earlier, finished one has gone beyond, and is the newest all the
     // same.
     SummaryScanPeak_ = ++SummaryScanDepth_;
-    summarise(std::string(program.CurrentSongPath));  // which another song may change meanwhile
-    --SummaryScanDepth_;
+    const std::string path = program.CurrentSongPath;  // another song may become current meanwhile
+    summarise(path);
+    const bool newest = SummaryScanPeak_ == SummaryScanDepth_--;
+    // A song that cannot be played has no summary of its own to take this one's place.
+    if (newest && !program.Ending && program.CurrentSongPath != path) {
+        stage_.form.Text1.set_text("");
+    }
 }
 
-bool SongSummary::stale() const {
-    return stage_.program.CurrentSongPath.empty() || stage_.program.Ending ||
+bool SongSummary::stale(const std::string& path) const {
+    return stage_.program.CurrentSongPath != path || stage_.program.Ending ||
            SummaryScanPeak_ > SummaryScanDepth_;
 }
 
-bool SongSummary::let_events_run() {
+bool SongSummary::let_events_run(const std::string& path) {
     stage_.events.pump();
-    return !stale();
+    return !stale(path);
 }
 
 void SongSummary::append(std::string_view text) {
@@ -56,11 +61,11 @@ void SongSummary::summarise(const std::string& path) {
     stage_.form.Text1.set_text("Scanning File...");
     const auto image = load_midi_image(stage_.files, path);
     if (!image) return stage_.form.Text1.set_text("");
-    if (!let_events_run()) return;
+    if (!let_events_run(path)) return;
     if (const auto signature = find_soft_karaoke(image->bytes)) {
         return summarise_karaoke(path, *image, *signature);
     }
-    if (!let_events_run()) return;
+    if (!let_events_run(path)) return;
     summarise_texts(path, *image);
 }
 
@@ -76,7 +81,7 @@ void SongSummary::summarise_texts(const std::string& path, const MidiImage& imag
     MidiTextItem item;
     for (ScanStep step; (step = scanner.next(item)) != ScanStep::end;) {
         if (step == ScanStep::item) texts.append(item, JoiningRule::summary);
-        if (step == ScanStep::pause && !let_events_run()) return;
+        if (step == ScanStep::pause && !let_events_run(path)) return;
     }
 
     std::string summary = path_and_size(path, facts.file_length, " Bytes.\r\n");
@@ -92,7 +97,7 @@ void SongSummary::summarise_texts(const std::string& path, const MidiImage& imag
 void SongSummary::summarise_karaoke(const std::string& path, const MidiImage& image,
                                     std::size_t signature) {
     stage_.form.Text1.set_text("Soft Karaoke File - Scanning...\r\n\r\n");
-    if (!let_events_run()) return;
+    if (!let_events_run(path)) return;
 
     SoftKaraokeReader reader(std::string_view(image.bytes).substr(0, kKaraokeBytes), signature);
     if (!reader.read_header()) return;
@@ -100,7 +105,7 @@ void SongSummary::summarise_karaoke(const std::string& path, const MidiImage& im
                .append(reader.transcript().header_text)
                .append("\r\nWords:\r\n\r\n"));
     while (reader.read_words()) {
-        if (!let_events_run()) return;
+        if (!let_events_run(path)) return;
     }
     append(reader.transcript().words_text);
 }

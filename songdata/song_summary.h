@@ -33,10 +33,10 @@ class SongSummary {
     void append(std::string_view text);
 
     // Whether another song has taken the current one's place.
-    bool stale() const;
+    bool stale(const std::string& path) const;
 
     // Returns false when this summary has become stale meanwhile.
-    [[nodiscard]] bool let_events_run();
+    [[nodiscard]] bool let_events_run(const std::string& path);
 
     Stage& stage_;
     std::int16_t SummaryScanDepth_ = 0;  // summaries in progress

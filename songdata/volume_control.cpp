@@ -1,5 +1,6 @@
 #include "songdata/volume_control.h"
 
+#include "core/sidecar.h"
 #include "core/text/letter_case.h"
 #include "core/text/numbers.h"
 #include "songdata/volume_file.h"
@@ -111,33 +112,37 @@ void VolumeControl::Command14_Click() {
         messages.ShowDlgMessage("Volume settings apply to .MID/.RMI files only.", 0, "Error");
         return;
     }
-    // The song may change while the question is open; the answer is about the one it named.
-    const std::string file = sidecar_path(stage_.program.CurrentSongPath, ".vol");
+    // The song may change while the question is open; the answer is about the one it named, and
+    // about the volume that it was heard at.
+    const Sidecar file = find_sidecar(stage_.files, stage_.program.CurrentSongPath, ".vol");
+    const Form1& f = stage_.form;
+    const RememberedVolume now{f.Slider2.value(), f.Slider3.value(), f.Check1.value()};
     const Answer answer = messages.ShowDlgMessage(
         "This will remember the current volume settings for " + name +
             " and adjust them appropriately the next time you play the song.  Click YES to "
             "remember the settings, NO to forget the settings.",
         1, "Choose an option");
+    if (stage_.program.Ending) return;  // that was nobody's answer
+    FileResult<void> done;
     if (answer == Answer::yes) {
-        const Form1& f = stage_.form;
-        const auto written = stage_.files.replace_file(
-            file, volume_file_text({f.Slider2.value(), f.Slider3.value(), f.Check1.value()}));
-        if (!written) {
-            messages.ShowDlgMessage("Error saving volume settings - " + written.error().description,
-                                    0, "Error");
-            return;
-        }
+        done = stage_.files.replace_file(file.path, volume_file_text(now));
+    } else if (file.there) {
+        done = stage_.files.remove_file(file.path);
+    }
+    if (!done) {
+        messages.ShowDlgMessage("Error saving volume settings - " + done.error().description, 0,
+                                "Error");
+    } else if (answer == Answer::yes) {
         messages.ShowDlgMessage("Volume settings remembered for " + name, 0, "Done.");
     } else {
-        (void)stage_.files.remove_file(file);
         messages.ShowDlgMessage("Volume settings forgotten for " + name + ".", 0, "Done.");
     }
 }
 
 void VolumeControl::apply_remembered(const std::string& song_path) {
-    const std::string file = sidecar_path(song_path, ".vol");
-    if (file.empty()) return;
-    const auto text = stage_.files.read_file(file, FileSystem::text_file_limit);
+    const Sidecar file = find_sidecar(stage_.files, song_path, ".vol");
+    if (!file.there) return;
+    const auto text = stage_.files.read_file(file.path, FileSystem::text_file_limit);
     if (!text) return;
     const auto volume = parse_volume_file(*text);
     if (!volume) return;

@@ -17,8 +17,9 @@ std::string volume_file_text(const RememberedVolume& volume) {
 
 std::optional<RememberedVolume> parse_volume_file(std::string_view text) {
     const std::vector<std::string_view> lines = text_lines(text);
+    if (lines.size() < 4) return std::nullopt;
     const auto number = [&](std::size_t line) {
-        return line < lines.size() ? round_half_even(leading_number(lines[line])) : 0.0;
+        return round_half_even(leading_number(lines[line]));
     };
     for (const std::size_t line : {1, 2, 3}) {
         if (!(number(line) >= 0 && number(line) <= 100)) return std::nullopt;

@@ -18,8 +18,8 @@ struct RememberedVolume {
 // The four lines of the file, each ended by CR LF.
 std::string volume_file_text(const RememberedVolume& volume);
 
-// What a file says; nothing when one of its numbers lies outside 0 to 100. Lines that are missing
-// or no number read as 0.
+// What a file says; nothing when lines are missing, or one of the numbers lies outside 0 to 100.
+// Text that is no number reads as 0.
 std::optional<RememberedVolume> parse_volume_file(std::string_view text);
 
 }  // namespace zephyne

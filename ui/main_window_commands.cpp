@@ -31,7 +31,8 @@ void MainWindowCommands::Command11_Click() {
 }
 
 void MainWindowCommands::Form_KeyUp(int key) {
-    if (key != kF2 || stage_.program.SwitchingSong) return;
+    // A playlist leaves the key "Rename" disabled, and F2 with it.
+    if (key != kF2 || stage_.program.SwitchingSong || !stage_.form.Command18.usable()) return;
     if (targets_.renamefile) targets_.renamefile();
 }
 

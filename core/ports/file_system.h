@@ -94,8 +94,8 @@ class FileSystem {
     // to write it is neither removed nor replaced, even where its folder would allow it. On failure
     // everything is as it was.
 
-    // Gives the file these contents in one step: nobody, and no failure of the machine, ever finds
-    // half of them.
+    // Gives the file of exactly that name these contents in one step: nobody, and no failure of the
+    // machine, ever finds half of them. Its folder is found in any case.
     virtual FileResult<void> replace_file(const std::string& path, std::string_view bytes) = 0;
 
     virtual FileResult<void> remove_file(const std::string& path) = 0;

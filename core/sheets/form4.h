@@ -35,7 +35,6 @@ struct Form4 : Form {
                            .tab = 3,
                            .stop = TabStop::yes}) {
         Text1.set_accessible_name("Note");
-        set_cancel_button(&Command2);
     }
 
     Picture Image1;   // note pad and pencil

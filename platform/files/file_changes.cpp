@@ -38,13 +38,15 @@ struct RealFile {
     struct stat status {};
 };
 
+FileResult<RealFile> exactly(const std::string& path) {
+    const auto status = status_of(path);
+    if (!status) return tl::unexpected(file_error(errno));
+    if (!S_ISREG(status->st_mode)) return tl::unexpected(not_an_ordinary_file());
+    return RealFile{path, *status};
+}
+
 FileResult<RealFile> ordinary_file(const std::string& path) {
-    return on_real_path(path, [](const std::string& real) -> FileResult<RealFile> {
-        const auto status = status_of(real);
-        if (!status) return tl::unexpected(file_error(errno));
-        if (!S_ISREG(status->st_mode)) return tl::unexpected(not_an_ordinary_file());
-        return RealFile{real, *status};
-    });
+    return on_real_path(path, exactly);
 }
 
 // A file without any write permission is meant to be kept, also from the administrator, whom the
@@ -53,15 +55,19 @@ bool may_be_written(const RealFile& file) {
     return (file.status.st_mode & 0222U) != 0 && ::access(file.path.c_str(), W_OK) == 0;
 }
 
-// Not every file system can rename without replacing; there a look before has to do.
-FileResult<void> rename_without_replacing(const std::string& from, const std::string& to) {
-    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return {};
-    if (errno == EINVAL || errno == ENOSYS) {
-        struct stat status {};
-        if (::lstat(to.c_str(), &status) == 0) return tl::unexpected(file_error(EEXIST));
-        if (::rename(from.c_str(), to.c_str()) == 0) return {};
-    }
-    return tl::unexpected(file_error(errno));
+// Returns 0 or an errno value. Not every file system can rename without replacing; there a look
+// before has to do.
+int rename_without_replacing(const std::string& from, const std::string& to) {
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
+    if (errno != EINVAL && errno != ENOSYS) return errno;
+    struct stat status {};
+    if (::lstat(to.c_str(), &status) == 0) return EEXIST;
+    return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
+FileResult<void> result_of(int error_number) {
+    if (error_number == 0) return {};
+    return tl::unexpected(file_error(error_number));
 }
 
 // Where a file is to go, and whether it is there already under a name that differs in case.
@@ -123,7 +129,9 @@ FileResult<void> move_by_copy(const RealFile& source, const std::string& to) {
     auto copy = FreshFile::in(folder_of(to));
     if (!copy) return tl::unexpected(copy.error());
     if (auto copied = copy_to_disk(source, *copy); !copied) return copied;
-    if (auto placed = rename_without_replacing(copy->path(), to); !placed) return placed;
+    if (auto placed = result_of(rename_without_replacing(copy->path(), to)); !placed) {
+        return placed;
+    }
     copy->keep();
     flush_folder(folder_of(to));
     if (::unlink(source.path.c_str()) == 0) return {};
@@ -135,9 +143,9 @@ FileResult<void> move_by_copy(const RealFile& source, const std::string& to) {
 }  // namespace
 
 FileResult<void> PosixFileSystem::replace_file(const std::string& path, std::string_view bytes) {
-    auto real = path_for_writing(path);
+    auto real = path_as_named(path);
     if (!real) return tl::unexpected(real.error());
-    const auto old = ordinary_file(*real);
+    const auto old = exactly(*real);
     if (!old && old.error().kind != FileErrorKind::not_found) return tl::unexpected(old.error());
     if (old) {
         if (!may_be_written(*old)) return tl::unexpected(file_error(EACCES));
@@ -173,7 +181,9 @@ FileResult<void> PosixFileSystem::rename_file(const std::string& from, const std
     if (!source) return tl::unexpected(source.error());
     const auto target = destination(*source, to);
     if (!target) return tl::unexpected(target.error());
-    if (!target->is_source) return rename_without_replacing(source->path, target->path);
+    if (!target->is_source) {
+        return result_of(rename_without_replacing(source->path, target->path));
+    }
     if (::rename(source->path.c_str(), target->path.c_str()) != 0) {
         return tl::unexpected(file_error(errno));
     }
@@ -185,13 +195,9 @@ FileResult<void> PosixFileSystem::move_file(const std::string& from, const std::
     if (!source) return tl::unexpected(source.error());
     const auto target = destination(*source, to);
     if (!target) return tl::unexpected(target.error());
-    if (target->is_source) return tl::unexpected(file_error(EACCES));
-    const auto source_folder = status_of(folder_of(source->path));
-    const auto target_folder = status_of(folder_of(target->path));
-    if (source_folder && target_folder && source_folder->st_dev == target_folder->st_dev) {
-        return rename_without_replacing(source->path, target->path);
-    }
-    return move_by_copy(*source, target->path);
+    if (target->is_source || !may_be_written(*source)) return tl::unexpected(file_error(EACCES));
+    const int renamed = rename_without_replacing(source->path, target->path);
+    return renamed == EXDEV ? move_by_copy(*source, target->path) : result_of(renamed);
 }
 
 }  // namespace zephyne

@@ -39,9 +39,11 @@ FileResult<void> write_all(const Descriptor& file, std::string_view bytes) {
     return {};
 }
 
-FileResult<std::string> path_for_writing(const std::string& path) {
-    if (auto there = find_in_any_case(path)) return there;
+FileResult<std::string> path_as_named(const std::string& path) {
     const auto [folder, name] = split_path(path, PathStyle::posix);
+    if (path.empty() || path.find('\0') != std::string::npos) {
+        return tl::unexpected(file_error(EINVAL));
+    }
     if (folder.empty()) return path;
     auto real_folder = find_in_any_case(folder);
     if (!real_folder) {
@@ -49,6 +51,11 @@ FileResult<std::string> path_for_writing(const std::string& path) {
         return tl::unexpected(folder_error(ENOENT));
     }
     return joined(*real_folder, name, PathStyle::posix);
+}
+
+FileResult<std::string> path_for_writing(const std::string& path) {
+    if (auto there = find_in_any_case(path)) return there;
+    return path_as_named(path);
 }
 
 }  // namespace zephyne

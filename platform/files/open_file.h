@@ -40,6 +40,9 @@ FileResult<Descriptor> open_ordinary(const std::string& path, int flags);
 
 FileResult<void> write_all(const Descriptor& file, std::string_view bytes);
 
+// The path of a file of exactly that name, there or not, in its folder as that is really called.
+FileResult<std::string> path_as_named(const std::string& path);
+
 // Where a file that is to be written lies or will lie: a file that is there in another case is
 // that file, and a new one goes into its folder under the name as written.
 FileResult<std::string> path_for_writing(const std::string& path);

@@ -183,12 +183,14 @@ TYPED_TEST(Files, WritingGoesIntoTheFileThatIsThereInWhateverCase) {
 
 TYPED_TEST(Files, ReplacedFileIsWholeAndKeepsItsName) {
     this->world_.add_file("SONG.NTE", "a long old note");
-    ASSERT_TRUE(this->world_.files.replace_file(this->world_.path("song.nte"), "new"));
+    ASSERT_TRUE(this->world_.files.replace_file(this->world_.path("SONG.NTE"), "new"));
     ASSERT_TRUE(this->world_.files.replace_file(this->world_.path("other.nte"), "fresh"));
     EXPECT_EQ(this->read("SONG.NTE"), "new");
     EXPECT_EQ(this->listed(this->world_.files.list_files(this->world_.root)),
               (Names{"SONG.NTE", "other.nte"}))
         << "and nothing is left beside it";
+    ASSERT_TRUE(this->world_.files.replace_file(this->world_.path("song.nte"), "a namesake"));
+    EXPECT_EQ(this->read("SONG.NTE"), "new");
     EXPECT_EQ(this->world_.files.replace_file(this->world_.path("Missing/x.nte"), "").error().kind,
               FileErrorKind::not_found);
     this->world_.add_pipe("pipe.nte");

@@ -317,6 +317,45 @@ TEST_P(FileCareTest, MoveToAFullVolumeKeepsTheSong) {
     EXPECT_TRUE(world.files.exists(in(stick, "a.mid")));
 }
 
+// A song may be handed over, from another folder, while a box is open.
+TEST_P(FileCareTest, AnswersAreAboutTheSongOfTheQuestion) {
+    world.files.add_file(in(elsewhere, "a.mid"), "the other one");
+    const auto hand_over = [this] {
+        const FlagGuard switching(world.program.SwitchingSong);
+        ASSERT_TRUE(world.form.Dir1.set_path(elsewhere));
+        world.engine->songs.refreshfiles();
+        world.program.CurrentSongName = "a.mid";
+        world.program.CurrentSongPath = in(elsewhere, "a.mid");
+        world.engine->player.restart();
+    };
+    choose("a.mid");
+    questions.while_open = hand_over;
+    rename("c.mid");
+    EXPECT_TRUE(world.files.exists(world.path("c.mid")));
+    EXPECT_EQ(world.program.CurrentSongPath, in(elsewhere, "a.mid"));
+
+    ASSERT_TRUE(world.form.Dir1.set_path(world.folder));
+    choose("b.mid");
+    world.messages.while_open = hand_over;
+    world.form.Command4.click();
+    world.messages.while_open = nullptr;
+    EXPECT_FALSE(world.files.exists(world.path("b.mid")));
+    EXPECT_EQ(world.open_song(), "a.mid") << "what plays now goes on";
+
+    ASSERT_TRUE(world.form.Dir1.set_path(world.folder));
+    choose("c.mid");
+    while_moving = [&](Form6& form) {
+        hand_over();
+        form.Text1.set_text(in(elsewhere, "c.mid"));
+        form.Command1.click();
+    };
+    world.form.Command5.click();
+    EXPECT_TRUE(world.files.exists(in(elsewhere, "c.mid")));
+    EXPECT_EQ(world.open_song(), "a.mid");
+    EXPECT_EQ(world.files.contents(in(elsewhere, "a.mid")), "the other one");
+    world.expect_flags_at_rest();
+}
+
 TEST_P(FileCareTest, FileManagerOpensWhereTheSongIsOrWhereTheProgramStands) {
     world.form.Command22.set_visible(true);  // as in the layout of the queue
     world.form.Command23.set_visible(true);

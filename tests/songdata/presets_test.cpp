@@ -195,6 +195,23 @@ TEST_F(PresetsTest, VanishedFolderClearsThePresetAndBringsBackTheOldPlace) {
     world.expect_flags_at_rest();
 }
 
+TEST_F(PresetsTest, SongThatEndsUnderTheMessageIsFollowedByTheNext) {
+    set(1, "/gone");
+    set(2, "/other", "gone.mid");
+    for (const std::size_t number : {1U, 2U}) {
+        world.start(PlayMode::Alpha);
+        world.messages.while_open = [this] {
+            world.midi.finish();
+            world.run_for(1000);
+        };
+        key(number).click();
+        world.messages.while_open = nullptr;
+        EXPECT_EQ(world.open_song(), number == 1 ? "b.mid" : "y.mid");
+        world.expect_flags_at_rest();
+        world.expect_title_tells_the_truth();
+    }
+}
+
 TEST_F(PresetsTest, VanishedSongLeavesItsFolder) {
     struct Case {
         std::int32_t mode;

@@ -128,6 +128,38 @@ TEST_F(SongNotesTest, NoteBelongsToTheSongsOwnFolder) {
     EXPECT_EQ(note("SONG.nte"), "here\r\n");
 }
 
+TEST_F(SongNotesTest, OpenNoteFollowsItsSong) {
+    open("SONG.MID");
+    window()->Text1.set_text("kept");
+    world.stage.services.song_renamed(world.path("waltz.mid"), world.path("other.mid"));
+    world.stage.services.song_renamed(world.path("SONG.MID"), world.path("New.mid"));
+    EXPECT_EQ(window()->Label2.caption(), "New.mid ");
+    window()->Command1.click();
+    EXPECT_EQ(note("New.nte"), "kept\r\n");
+    open("waltz.mid");
+    window()->Text1.set_text("lost with the song");
+    world.stage.services.song_deleted(world.path("waltz.mid"));
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(note("waltz.nte"), std::nullopt);
+}
+
+// SONG.nte may be the other song's.
+TEST_F(SongNotesTest, SongsThatDifferInCaseHaveNotesOfTheirOwn) {
+    world.files.add_file(world.path("SONG.nte"), "loud");
+    world.files.add_file(world.path("song.mid"));
+    world.engine->songs.refreshfiles();
+    open("song.mid");
+    EXPECT_EQ(window()->Text1.text(), "");
+    window()->Text1.set_text("soft");
+    window()->Command1.click();
+    EXPECT_EQ(note("SONG.nte"), "loud");
+    EXPECT_EQ(note("song.nte"), "soft\r\n");
+    open("song.mid");
+    window()->Command3.click();
+    EXPECT_EQ(note("SONG.nte"), "loud");
+    EXPECT_EQ(note("song.nte"), std::nullopt);
+}
+
 TEST_F(SongNotesTest, TaskbarButtonIsAsTheMainWindows) {
     for (const std::int16_t bar : {0, 1}) {
         world.settings().ShowBar = bar;

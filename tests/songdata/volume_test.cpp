@@ -13,9 +13,9 @@ TEST(VolumeFile, IsFourLinesAndIsReadLeniently) {
     const std::string text = "Zephyne Volume Settings File\r\n 25\r\n 100\r\n 1\r\n";
     EXPECT_EQ(volume_file_text({25, 100, 1}), text);
     EXPECT_EQ(parse_volume_file(text), (RememberedVolume{25, 100, 1}));
-    EXPECT_EQ(parse_volume_file("any title\n7.5\nleft\n"), (RememberedVolume{8, 0, 0}));
-    EXPECT_EQ(parse_volume_file(""), (RememberedVolume{0, 0, 0}));
-    for (const char* damaged : {"\n101\n0\n0", "\n0\n-1\n0", "\n0\n0\n1e9", "\n1e400\n0\n0"}) {
+    EXPECT_EQ(parse_volume_file("any title\n7.5\nleft\n1"), (RememberedVolume{8, 0, 1}));
+    for (const char* damaged :
+         {"", "title\n1\n2", "\n101\n0\n0", "\n0\n-1\n0", "\n0\n0\n1e9", "\n1e400\n0\n0"}) {
         EXPECT_FALSE(parse_volume_file(damaged)) << damaged;
     }
 }
@@ -153,6 +153,25 @@ TEST_F(VolumeControlTest, RemVolRemembersAndForgets) {
               (Log{question, "message: Volume settings remembered for SONG.MID [Done.]", question,
                    "message: Volume settings forgotten for SONG.MID. [Done.]", question,
                    "message: Volume settings forgotten for SONG.MID. [Done.]"}));
+}
+
+TEST_F(VolumeControlTest, AnswerIsAboutTheSongAndTheVolumeOfTheQuestion) {
+    remember("quiet.vol", "70", "70", "0");
+    world.click("SONG.MID");
+    set_sliders(25, 30);
+    world.messages.while_open = [this] {
+        world.messages.while_open = nullptr;
+        world.click("quiet.mid");
+    };
+    world.form.Command14.click();
+    EXPECT_EQ(world.files.contents(world.path("SONG.vol")),
+              "Zephyne Volume Settings File\r\n 25\r\n 30\r\n 0\r\n");
+
+    // The end of the program closes the question; that is no "No".
+    world.messages.answer = Answer::no;
+    world.messages.while_open = [this] { world.program.Ending = true; };
+    world.form.Command14.click();
+    EXPECT_TRUE(world.files.exists(world.path("quiet.vol")));
 }
 
 TEST_F(VolumeControlTest, VolumeThatCannotBeWrittenLeavesTheOldFile) {

@@ -91,9 +91,11 @@ class ScriptedQuestions final : public Questions {
     explicit ScriptedQuestions(Log& log) : log_(log) {}
 
     std::optional<std::string> answer;
+    std::function<void()> while_open;
 
     std::string ask(std::string prompt, std::string title, std::string proposal) override {
         log_.push_back("ask: " + prompt + " [" + title + "] " + proposal);
+        if (while_open) while_open();
         return answer.value_or(proposal);
     }
 

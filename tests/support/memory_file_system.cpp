@@ -413,20 +413,26 @@ FileResult<void> MemoryFileSystem::write_fault() {
 }
 
 FileResult<void> MemoryFileSystem::replace_file(const std::string& path, std::string_view bytes) {
-    const auto old = find(path);
-    if (old && (*old)->fault == Fault::write_denied) return permission_denied();
-    const std::string before = old ? (*old)->contents : "";
-    auto file = create_file(path);
-    if (!file) return tl::unexpected(file.error());
-    auto done = (*file)->write(bytes);
-    if (done) done = (*file)->close();
-    if (done) return {};
-    if (old) {
-        (*old)->contents = before;
-    } else {
-        (void)remove_file(path);
+    auto parts = path.empty() ? std::vector<std::string>{} : parts_of(path);
+    if (parts.size() < 2) return not_found("Path not found");
+    const std::string name = parts.back();
+    parts.pop_back();
+    const auto folder = find(path_of(parts));
+    if (!folder) return tl::unexpected(folder.error());
+    Node* file = (*folder)->member(name);
+    for (const Node* node : {static_cast<const Node*>(*folder), static_cast<const Node*>(file)}) {
+        if (node && (node->fault == Fault::denied || node->fault == Fault::write_denied)) {
+            return permission_denied();
+        }
     }
-    return done;
+    if (file && (file->is_folder || file->kind != FileKind::ordinary)) {
+        return error(FileErrorKind::other, "Not an ordinary file");
+    }
+    if (auto written = write_fault(); !written) return written;
+    if (std::exchange(close_fails_, false)) return error(FileErrorKind::other, "Disk full");
+    if (!file) file = &(*folder)->add(name);
+    file->contents = bytes;
+    return {};
 }
 
 MemoryFileSystem::Node& MemoryFileSystem::folder_of(const Node& member) const {

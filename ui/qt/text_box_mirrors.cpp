@@ -16,6 +16,13 @@ QString with_line_feeds(QString text) {
     return text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
+// The text as it is, with line feeds. (Qt's own plain text makes blanks of no-break spaces.)
+QString plain_text(const TextArea& area) {
+    QString text = area.document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    return text.replace(QChar::LineSeparator, QLatin1Char('\n'));
+}
+
 QColor text_colour(const TextBox& box) {
     if (!box.usable()) return paint::palette::quiet;
     return box.style() == Style::glass ? paint::rgb(box.colour()) : paint::palette::well_text;
@@ -106,15 +113,16 @@ void TextAreaMirror::show_selection() {
 }
 
 void TextAreaMirror::take_text() {
-    QString text = edit_->toPlainText();
+    QString text = plain_text(*edit_);
     text.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    text_box_.type(text.toStdString());
-    show_text();
+    const std::string typed = text.toStdString();
+    text_box_.type(typed);
+    if (text_box_.text() != typed) show_text();  // a handler had the last word
 }
 
 void TextAreaMirror::show_text() {
     const QString text = with_line_feeds(shown(text_box_.text()));
-    if (text == edit_->toPlainText()) return;
+    if (text == plain_text(*edit_)) return;
     showing_ = true;
     edit_->show_text(text);
     showing_ = false;
