@@ -134,6 +134,7 @@ void QuickTips::Form_Load(Quick_Tip& form) {
                                           ? stage_.program.TaskbarExStyle
                                           : stage_.program.NormalExStyle);
     form.set_visible(true);
+    windows_.bring_to_front(form);  // at the start the main window comes up at the same time
 }
 
 }  // namespace zephyne

@@ -173,6 +173,7 @@ TEST_F(Tips, TheWindowTellsThatItIsThereAndOpensAnewFromTheKey) {
     world.program.TaskbarExStyle = 7;
     world.form.Command21.click();
     EXPECT_EQ(windows.styles["Quick_Tip"], 7);
+    EXPECT_EQ(windows.raised, Log{"Quick_Tip"});
     EXPECT_FALSE(window()->Quick_Tip_.usable()) << "there is no help";
     window()->user_activated();
     EXPECT_EQ(world.program.CurrentForm, FormNumber::QuickTip);
