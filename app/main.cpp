@@ -48,6 +48,7 @@
 #include "ui/start_up.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QSessionManager>
 #include <QTimer>
 #include <clocale>
@@ -199,6 +200,7 @@ int main(int argc, char** argv) {
     const SteadyClock clock;
     Scheduler scheduler(clock);
     LocalHandOver hand_over(scheduler);
+    if (give_way(hand_over, line)) return 0;
     PosixFileSystem file_system;
     Zephyne zephyne(file_system, scheduler, hand_over);
 
@@ -210,5 +212,8 @@ int main(int argc, char** argv) {
     QTimer::singleShot(0, &application, [&] {
         if (zephyne.start(line) == Started::ended) QCoreApplication::exit(0);
     });
+    // After the window, which need not wait until its icon is drawn in all sizes.
+    QTimer::singleShot(0, &application,
+                       [] { QApplication::setWindowIcon(pictures::application_icon()); });
     return QApplication::exec();
 }

@@ -369,6 +369,39 @@ TEST_F(MirrorTest, AnAnimationPaintsOnlyItsOwnCorner) {
     EXPECT_TRUE(watch.painted.contains(corner));
 }
 
+TEST_F(MirrorTest, RowsAreSelectedWithMouseAndKeyboardByRangeAndByToggle) {
+    form.list.set_items({});
+    form.list.set_selecting(Selecting::extended);
+    form.list.set_items({{"one", ""}, {"two", ""}, {"three", ""}, {"four", ""}});
+    settle();
+    auto* view = widget<QListView>(form.list);
+    const auto click = [&](int row, Qt::KeyboardModifiers keys) {
+        const QPoint place = view->visualRect(view->model()->index(row, 0)).center();
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, keys, place);
+        settle();
+    };
+    using Rows = std::vector<std::size_t>;
+    click(1, {});
+    click(3, Qt::ControlModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{1, 3}));
+    click(1, Qt::ShiftModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{1, 2, 3}));
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(view, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{0, 1, 2, 3}));
+    QTest::keyClick(view, Qt::Key_Down);
+    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{1, 2}));
+
+    form.list.on_double_click = [&] { form.log.push_back("opened"); };
+    taken();
+    QTest::keyClick(view, Qt::Key_Return);
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {},
+                       view->visualRect(view->model()->index(2, 0)).center());
+    EXPECT_EQ(taken(), (Log{"opened", "opened"}));
+}
+
 // Counts what a view asks for.
 class CountingRows final : public Rows {
   public:
