@@ -2,6 +2,7 @@
 
 #include "core/text/numbers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -111,7 +112,9 @@ void QuickTips::Form_Load(Quick_Tip& form) {
     };
     const auto tell = [this, &form](std::string tip) {
         form.tiplabel.set_caption(std::move(tip));
-        form.make_room(windows_.text_height(form.tiplabel));
+        const int rest = form.place().height - form.tiplabel.place().height;
+        form.make_room(
+            std::min(windows_.text_height(form.tiplabel), windows_.screen().height - rest));
     };
     form.show_tip.set_value(tips_at_start() ? 1 : 0);
     form.show_tip.set_on_click([] {});  // read when the window is closed by "OK"
@@ -134,6 +137,7 @@ void QuickTips::Form_Load(Quick_Tip& form) {
                                           ? stage_.program.TaskbarExStyle
                                           : stage_.program.NormalExStyle);
     form.set_visible(true);
+    windows_.bring_to_front(form);  // at the start the main window comes up at the same time
 }
 
 }  // namespace zephyne

@@ -41,6 +41,7 @@ void QtNotificationArea::watch_icon_window() {
         if (!widget->inherits("QSystemTrayIconSys") || !window) continue;
         if (window->type() == Qt::ToolTip) continue;
         window->setFlags((window->flags() & ~Qt::WindowType_Mask) | Qt::ToolTip);
+        window->setTransientParent(window->transientParent());  // settles anew what is blocked
         window->installEventFilter(this);
     }
 }

@@ -133,6 +133,9 @@ TEST(Layout, AMinimisedWindowStaysOnTheTaskbarOrHides) {
         stays.form.user_changed_state(state);
         EXPECT_TRUE(stays.has_taskbar_button());
         EXPECT_EQ(stays.form.state(), state);
+        stays.hand_over.on_bring_forward();
+        stays.form.Command11.click();
+        EXPECT_EQ(stays.window(), "minimised with button");
     }
 }
 
@@ -143,7 +146,7 @@ TEST(Layout, AWindowWhoseTrayIconHasGoneIsNotLost) {
         world.windows.has_icon = false;  // the desktop's panel has crashed
         world.happened();
         if (by_key) {
-            world.layout.put_away();
+            world.form.Command11.click();
         } else {
             world.form.user_changed_state(WindowState::minimized);
         }

@@ -112,6 +112,9 @@ TEST_F(Tips, LongTipsMakeTheWindowGrow) {
     open();
     const int high = window()->place().height;
     EXPECT_EQ(window()->tiplabel.place().height, 4000);
+    windows.height_of_text = 40'000;
+    next();
+    EXPECT_EQ(window()->place().height, windows.screen().height) << "its keys stay on the screen";
     windows.height_of_text = 300;
     next();
     EXPECT_LT(window()->place().height, high - 2000);
@@ -173,6 +176,7 @@ TEST_F(Tips, TheWindowTellsThatItIsThereAndOpensAnewFromTheKey) {
     world.program.TaskbarExStyle = 7;
     world.form.Command21.click();
     EXPECT_EQ(windows.styles["Quick_Tip"], 7);
+    EXPECT_EQ(windows.raised, Log{"Quick_Tip"});
     EXPECT_FALSE(window()->Quick_Tip_.usable()) << "there is no help";
     window()->user_activated();
     EXPECT_EQ(world.program.CurrentForm, FormNumber::QuickTip);

@@ -241,21 +241,6 @@ TEST_F(Tray, AMenuThatIsNewShowsThePlayerAsItIs) {
     EXPECT_EQ(state(), "Pause (off), Play");
 }
 
-TEST_F(Tray, NextFollowsTheModeAndStopsAtTheEndOfTheList) {
-    play_alpha();
-    world.tray.mnuNext.click();
-    EXPECT_EQ(world.open_song(), "B.mid");
-    world.settings().Mode = PlayMode::Manual;
-    for (int i = 0; i < 4; ++i) world.tray.mnuNext.click();
-    EXPECT_EQ(world.open_song(), "D.mid");
-    EXPECT_EQ(world.played(), (std::vector<std::string>{"A.mid", "B.mid", "C.wav", "D.mid"}));
-    world.program.PausedByUser = true;
-    world.program.AutoStarting = true;
-    world.tray.mnuNext.click();
-    EXPECT_FALSE(world.program.PausedByUser);
-    EXPECT_EQ(world.open_song(), "D.mid");
-}
-
 TEST_F(Tray, NextInTheQueueTakesTheQueuesStepOnly) {
     play_alpha();
     world.settings().Mode = PlayMode::Queue;

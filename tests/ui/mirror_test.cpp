@@ -255,6 +255,7 @@ TEST_F(MirrorTest, EnterAndEscapePressTheAnswersUnlessAKeyHasTheFocus) {
 TEST_F(MirrorTest, AltAndTheMarkedLetterPressAKeyThatShowsNoMark) {
     form.inner.set_caption("&Inner && outer");
     QTest::keyClick(widget(form.line), 'i', Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !form.log.empty(); })) << "seen going down first";
     EXPECT_EQ(taken(), Log{"inner"});
     const auto names = window->findChildren<QAbstractButton*>();
     EXPECT_TRUE(std::any_of(names.begin(), names.end(), [](const QAbstractButton* key) {
