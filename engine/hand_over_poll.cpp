@@ -109,9 +109,9 @@ void HandOverPoll::play_from_folder(std::string path) {
 
     const auto& songs = f.File1.items();
     auto found = std::find_if(songs.begin(), songs.end(),
-                              [&](const ListItem& song) { return song.real() == name; });
+                              [&](const ListRow& song) { return song.real() == name; });
     if (found == songs.end()) {
-        found = std::find_if(songs.begin(), songs.end(), [&](const ListItem& song) {
+        found = std::find_if(songs.begin(), songs.end(), [&](const ListRow& song) {
             return equal_ignoring_case(song.text, name);
         });
     }

@@ -45,25 +45,59 @@ void PlayOrder::RefillAndPlayNext() {
     PlayNextSong();
 }
 
+// What the cycle is filled with, row by row as the list shows it.
+const ListBox& PlayOrder::all_songs() const {
+    return stage_.settings().Playlist == 1 ? stage_.form.List3 : stage_.form.File1;
+}
+
 void PlayOrder::refill() {
     Form1& f = stage_.form;
-    f.List1.set_items(stage_.settings().Playlist == 1 ? f.List3.items() : f.File1.items(),
-                      Sorting::done);
+    f.List1.set_items(all_songs().items(), Sorting::done);
     stage_.program.OrderIndex =
         runs_backwards(stage_.settings()) ? static_cast<std::int32_t>(f.List1.count()) - 1 : 0;
 }
 
 void PlayOrder::refill_without(std::size_t song) {
     Form1& f = stage_.form;
-    std::vector<ListItem> others = f.File1.items();
-    others.erase(others.begin() + static_cast<std::ptrdiff_t>(song));
+    ListRows others = all_songs().items();
+    others.erase(song);
     f.List1.set_items(std::move(others), Sorting::done);
     stage_.program.OrderIndex =
         runs_backwards(stage_.settings()) ? static_cast<std::int32_t>(f.List1.count()) - 1 : 0;
 }
 
-void PlayOrder::show_counters() {
+void PlayOrder::begin_with_new_list() {
+    if (stage_.settings().Mode >= PlayMode::Manual) return;
+    stage_.events.pump();
+    RefillAndPlayNext();
+}
+
+void PlayOrder::drop(const std::string& real_name) {
+    ListBox& remaining = stage_.form.List1;
+    for (std::size_t row = remaining.count(); row-- > 0;) {
+        if (remaining.item(row).real() != real_name) continue;
+        remaining.remove(row);
+        if (static_cast<std::int32_t>(row) < stage_.program.OrderIndex) {
+            --stage_.program.OrderIndex;
+        }
+    }
+}
+
+void PlayOrder::rename(const std::string& real_name, const ListItem& renamed) {
+    ListBox& remaining = stage_.form.List1;
+    const std::size_t before = remaining.count();
+    drop(real_name);
+    if (remaining.count() == before) return;
+    const std::size_t row = remaining.add(renamed);
+    if (static_cast<std::int32_t>(row) < stage_.program.OrderIndex) ++stage_.program.OrderIndex;
+}
+
+void PlayOrder::show_total() {
     stage_.form.Label2.set_caption(count_text(stage_.form.File1));
+}
+
+void PlayOrder::show_counters() {
+    show_total();
     show_remaining();
 }
 
@@ -108,7 +142,7 @@ void PlayOrder::select_in_list(const ListItem& entry) {
     auto found = songs.end();
     if (stage_.settings().Playlist == 0) found = std::find(songs.begin(), songs.end(), entry);
     if (found == songs.end()) {
-        found = std::find_if(songs.begin(), songs.end(), [&](const ListItem& song) {
+        found = std::find_if(songs.begin(), songs.end(), [&](const ListRow& song) {
             return song.text.starts_with(program.CurrentSongName);
         });
     }
@@ -158,7 +192,7 @@ void PlayOrder::play_next_queued() {
     Program& program = stage_.program;
     Form1& f = stage_.form;
     while (!f.List2.empty()) {
-        const std::string path = f.List2.item(0).text;
+        const std::string path(f.List2.item(0).text);
         f.List2.remove(0);
         if (!stage_.files.check_readable(path)) {
             stage_.events.pump();

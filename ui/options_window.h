@@ -21,9 +21,8 @@ namespace zephyne {
 
 class OptionsWindow {
   public:
-    // The services may be filled in later, until the window is first shown.
     OptionsWindow(Stage& stage, Engine& engine, MainWindowLayout& layout, WindowHost& windows,
-                  OptionsServices& services);
+                  OptionsServices services);
     ~OptionsWindow();
 
     // "Options..." of the main window: shows the window until it is closed. Nothing happens while
@@ -50,7 +49,7 @@ class OptionsWindow {
     Engine& engine_;
     MainWindowLayout& layout_;
     WindowHost& windows_;
-    OptionsServices& services_;
+    const OptionsServices services_;
     KillCommands kill_;
     std::unique_ptr<Form2> form_;
     OptionsMarks marks_;

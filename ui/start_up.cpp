@@ -15,6 +15,13 @@ constexpr Milliseconds kPollInterval = 1500;
 
 }  // namespace
 
+bool give_way(HandOver& hand_over, const std::string& command_line) {
+    if (!hand_over.another_copy_runs()) return false;
+    hand_over.bring_forward();
+    if (!command_line.empty()) hand_over.poke(command_line);
+    return true;
+}
+
 StartUp::StartUp(Stage& stage, Engine& engine, MainWindowLayout& layout, WindowHost& windows,
                  HandOver& hand_over)
     : stage_(stage), engine_(engine), layout_(layout), windows_(windows), hand_over_(hand_over) {
@@ -33,18 +40,11 @@ void StartUp::come_forward() {
 }
 
 Started StartUp::Form_Load(const std::string& command_line) {
-    if (give_way(command_line)) return Started::ended;
+    if (choose_volume_device) choose_volume_device();
     set_up();
     if (!command_line.empty()) return start_queue(command_line);
     start_normally();
     return Started::normal;
-}
-
-bool StartUp::give_way(const std::string& command_line) {
-    if (!hand_over_.another_copy_runs()) return false;
-    hand_over_.bring_forward();
-    if (!command_line.empty()) hand_over_.poke(command_line);
-    return true;
 }
 
 void StartUp::set_up() {
@@ -67,6 +67,7 @@ void StartUp::set_up() {
     ReadSettings(program, f, stage_.files);
     const bool first_start = !settings && settings.error().kind == FileErrorKind::not_found;
     if (first_start) show_demo_songs_at_first_start();
+    if (show_presets) show_presets();
     layout_.settips();
     check_reset_file(program, stage_.files);
     engine_.display.ClearTimeDisplay();

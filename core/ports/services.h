@@ -23,6 +23,12 @@ class Beeper {
     virtual void beep() = 0;
 };
 
+class Clipboard {
+  public:
+    virtual ~Clipboard() = default;
+    virtual void set_text(const std::string& text) = 0;  // UTF-8
+};
+
 // How every part of the program speaks to the user: a modal box with a text. It pumps events
 // until it is answered.
 enum class Answer : std::int16_t { ok = -1, no = 0, yes = 1 };
@@ -33,6 +39,24 @@ class Messages {
 
     // flags 0: a notice with "OK". Any other value: a question with "Yes" and "No".
     virtual Answer ShowDlgMessage(std::string text, std::int16_t flags, std::string title) = 0;
+};
+
+// A line of text from the user.
+class Questions {
+  public:
+    virtual ~Questions() = default;
+
+    // Modal, like a message. "" when the user cancels, or leaves nothing.
+    virtual std::string ask(std::string prompt, std::string title, std::string proposal) = 0;
+};
+
+// The desktop's file manager.
+class FileManager {
+  public:
+    virtual ~FileManager() = default;
+
+    // Opens a window on a folder and returns at once, without waiting for it. Failures are silent.
+    virtual void open_folder(const std::string& folder) = 0;
 };
 
 // The wire between two copies of the program. Only one copy per user holds the place; the others

@@ -1,6 +1,7 @@
 #include "core/text/key_sort.h"
 
 #include <algorithm>
+#include <array>
 
 namespace zephyne {
 namespace {
@@ -13,10 +14,14 @@ constexpr std::ptrdiff_t kFew = 16;
 constexpr std::size_t kDeepest = 512;
 
 std::uint64_t piece_of(std::string_view key, std::size_t depth) {
-    std::uint64_t piece = 0;
-    for (std::size_t i = depth; i < depth + kPiece; ++i) {
-        piece = (piece << 8U) | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
+    std::array<char, kPiece> bytes{};  // a whole piece is copied in one go
+    if (key.size() >= depth + kPiece) {
+        std::copy_n(key.begin() + static_cast<std::ptrdiff_t>(depth), kPiece, bytes.begin());
+    } else if (key.size() > depth) {
+        std::copy(key.begin() + static_cast<std::ptrdiff_t>(depth), key.end(), bytes.begin());
     }
+    std::uint64_t piece = 0;
+    for (const char byte : bytes) piece = (piece << 8U) | static_cast<unsigned char>(byte);
     return piece;
 }
 
@@ -32,9 +37,7 @@ void KeySort::sort(Entry* begin, Entry* end, std::size_t depth) const {
     for (Entry* entry = begin; entry != end; ++entry) {
         entry->piece = piece_of(key(entry->item), depth);
     }
-    std::sort(begin, end, [](const Entry& a, const Entry& b) {
-        return a.piece != b.piece ? a.piece < b.piece : a.item < b.item;
-    });
+    std::sort(begin, end, [](const Entry& a, const Entry& b) { return a.piece < b.piece; });
 
     for (Entry* run = begin; run != end;) {
         Entry* run_end =

@@ -4,8 +4,6 @@
 
 #include <utf8proc.h>
 
-#include <algorithm>
-
 namespace zephyne {
 namespace {
 
@@ -20,8 +18,11 @@ char ascii_upper(char c) {
 
 std::string ascii_mapped(std::string_view text, Case to) {
     std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(),
-                   to == Case::lower ? ascii_lower : ascii_upper);
+    if (to == Case::lower) {
+        for (char& c : result) c = ascii_lower(c);
+    } else {
+        for (char& c : result) c = ascii_upper(c);
+    }
     return result;
 }
 
@@ -43,9 +44,14 @@ std::string mapped(std::string_view text, Case to) {
 }
 
 void append_folded(std::string& result, std::string_view text) {
-    const bool unicode = !is_ascii(text) && is_utf8(text);
+    if (is_ascii(text) || !is_utf8(text)) {
+        const std::size_t begin = result.size();
+        result += text;
+        for (std::size_t i = begin; i < result.size(); ++i) result[i] = ascii_lower(result[i]);
+        return;
+    }
     while (!text.empty()) {
-        if (!unicode || (text.front() & 0x80) == 0) {
+        if ((text.front() & 0x80) == 0) {
             result += ascii_lower(text.front());
             text.remove_prefix(1);
             continue;

@@ -51,8 +51,8 @@ TEST(SortedList, FilledInBulkOrOneByOneItHoldsTheSameRowsInOrder) {
         ASSERT_EQ(lists.bulk.items(), lists.one_by_one.items());
         ASSERT_EQ(lists.bulk.count(), items.size());
         for (std::size_t i = 1; i < items.size(); ++i) {
-            const std::string above = lists.bulk.item(i - 1).text;
-            const std::string below = lists.bulk.item(i).text;
+            const std::string above(lists.bulk.item(i - 1).text);
+            const std::string below(lists.bulk.item(i).text);
             ASSERT_LE(collation_key(above), collation_key(below)) << above << " before " << below;
         }
     }
@@ -86,7 +86,7 @@ TEST(SortedList, OrdersEntriesByNameThenFolder) {
         lists.entries.add({entry, {}});
     }
     std::vector<std::string> order;
-    for (const ListItem& item : lists.entries.items()) order.push_back(item.text);
+    for (const ListRow& row : lists.entries.items()) order.emplace_back(row.text);
     EXPECT_EQ(order,
               (std::vector<std::string>{"a.mid|/B/", "a.mid|/b/", "a.mid|/z/", "a.mid.mid|/1/",
                                         "a|b.mid|/c/", "B.mid|/1/", "b.mid|/2/"}));
@@ -99,6 +99,19 @@ TEST(SortedList, RowsThatLookTheSameKeepTheirRealNames) {
     EXPECT_EQ(lists.bulk.item(1).real(), "SONG.mid");
     EXPECT_EQ(lists.bulk.item(2).real(), "song.mid");
     EXPECT_EQ(lists.bulk.add({"Song.mid", "Song.MID"}), 3U) << "behind its likes";
+}
+
+TEST(AnyList, ItsRowsCanBeCopiedAndOutliveTheListThatTheyCameFrom) {
+    Lists lists;
+    lists.bulk.set_items({{"b.mid", "B.MID"}, {"a.mid", {}}, {"c.mid", {}}});
+    lists.queue.set_items(lists.bulk.items());
+    lists.bulk.add(lists.bulk.item(1));
+    lists.bulk.set_items({{"other.mid", {}}});
+    lists.queue.remove(0);
+    lists.queue.add(lists.queue.item(0));
+    EXPECT_EQ(lists.queue.items(),
+              ListRows({{"b.mid", "B.MID"}, {"c.mid", {}}, {"b.mid", "B.MID"}}));
+    EXPECT_EQ(lists.bulk.items(), ListRows({{"other.mid", {}}}));
 }
 
 TEST(SortedList, FindsTheFirstRowThatBeginsWithATextInAnyCase) {
@@ -126,6 +139,80 @@ TEST(AnyList, TheSelectedRowStaysSelectedWhileItIsThere) {
             lists.bulk.remove(random.below(lists.bulk.count()));
         }
     }
+}
+
+// A list of a to f, and which of them are selected after each act of the user's.
+struct SelectionDesk : Form {
+    explicit SelectionDesk(Selecting selecting) : Form({.name = "Selection"}) {
+        list.set_selecting(selecting);
+        list.set_items({{"a", {}}, {"b", {}}, {"c", {}}, {"d", {}}, {"e", {}}, {"f", {}}});
+        list.on_click = [this] { ++clicks; };
+    }
+    std::string selected() const {
+        std::string rows;
+        for (const std::size_t row : list.selected_rows()) rows += list.item(row).text;
+        return rows;
+    }
+    std::string click(std::size_t row, ClickWith key = ClickWith::nothing) {
+        list.click(row, key);
+        return selected();
+    }
+    std::string move(std::size_t row, ClickWith key = ClickWith::nothing) {
+        list.move_to(row, key);
+        return selected();
+    }
+
+    ListBox list{*this, ListOrder::by_text, {.name = "list"}};
+    int clicks = 0;
+};
+
+TEST(AnExtendedList, SelectsByClickByRangeAndByToggle) {
+    SelectionDesk desk(Selecting::extended);
+    EXPECT_EQ(desk.click(1), "b");
+    EXPECT_EQ(desk.click(3, ClickWith::ctrl), "bd");
+    EXPECT_EQ(desk.click(1, ClickWith::ctrl), "d");
+    EXPECT_EQ(desk.click(4, ClickWith::shift), "bcde") << "from the last toggle on";
+    EXPECT_EQ(desk.click(0, ClickWith::shift), "ab") << "from the same row, upwards";
+    EXPECT_EQ(desk.move(2), "c");
+    EXPECT_EQ(desk.move(3, ClickWith::shift), "cd");
+    EXPECT_EQ(desk.clicks, 7);
+    EXPECT_EQ(desk.move(5, ClickWith::ctrl), "cd") << "only the keyboard moves";
+    EXPECT_EQ(desk.list.selected(), 5U);
+    EXPECT_EQ(desk.clicks, 7);
+    EXPECT_EQ(desk.click(5, ClickWith::ctrl), "cdf");
+    desk.list.set_selected(0);
+    EXPECT_EQ(desk.selected(), "a") << "as the program sets it";
+}
+
+TEST(ASimpleList, TogglesEveryRowThatIsClicked) {
+    SelectionDesk desk(Selecting::simple);
+    EXPECT_EQ(desk.click(1), "b");
+    EXPECT_EQ(desk.click(4), "be");
+    EXPECT_EQ(desk.move(3), "be");
+    EXPECT_EQ(desk.click(1), "e");
+    desk.list.double_click(2);
+    EXPECT_EQ(desk.selected(), "ce");
+    desk.list.select_all();
+    EXPECT_EQ(desk.selected(), "abcdef");
+    desk.list.select_none();
+    EXPECT_EQ(desk.selected(), "");
+    EXPECT_EQ(desk.clicks, 4);
+}
+
+TEST(AnExtendedList, KeepsItsSelectionWhenOtherRowsComeAndGo) {
+    SelectionDesk desk(Selecting::extended);
+    desk.click(1);
+    desk.click(4, ClickWith::ctrl);
+    desk.click(5, ClickWith::ctrl);
+    desk.list.add({"aa", {}});
+    desk.list.remove_rows({0, 1, 3, 6});
+    EXPECT_EQ(desk.selected(), "be") << "b to e are left, but for c";
+    EXPECT_EQ(desk.list.count(), 3U);
+    EXPECT_FALSE(desk.list.selected()) << "the keyboard was on f";
+    EXPECT_EQ(desk.click(0, ClickWith::shift), "bde") << "the range began behind the last row";
+    desk.list.set_items({{"x", {}}});
+    EXPECT_EQ(desk.selected(), "");
+    EXPECT_EQ(desk.click(0, ClickWith::shift), "x");
 }
 
 TEST(AQueue, KeepsTheOrderInWhichItWasFilled) {

@@ -260,7 +260,7 @@ class AnyIntruder : public testing::TestWithParam<PathStyle> {
         world.settings().AutoDelay = 0;
         for (std::size_t row : {0U, 1U}) {
             world.form.File1.click(row);
-            const std::string song = world.form.File1.item(row).text;
+            const std::string song(world.form.File1.item(row).text);
             EXPECT_EQ(world.open_song(), world.midi.broken.contains(song) ? "" : song);
             world.expect_title_tells_the_truth();
         }

@@ -202,7 +202,7 @@ class Find : public testing::Test {
     void type(const std::string& text) { world.form.text2.type(text); }
     std::string selected() const {
         const auto row = world.form.File1.selected();
-        return row ? world.form.File1.item(*row).text : "";
+        return std::string(row ? world.form.File1.item(*row).text : "");
     }
 
     World world{"Aria.mid", "BALLAD.MID", "Bach.mid", "barcarole.mid", "Étude.mid"};

@@ -1,5 +1,4 @@
 // What the Options window shows and does while it is open.
-#include "shell/help_topics.h"
 #include "tests/main_window/options_world.h"
 
 #include <gtest/gtest.h>
@@ -186,11 +185,19 @@ TEST(OptionsWindow, TheKillCommandsAskFirstAndDeleteOnlyTheirKind) {
     EXPECT_TRUE(playlist.files.exists(playlist.path("a.nte")));
 }
 
+TEST(OptionsWindow, HelpAndAboutLeadOutOfIt) {
+    OptionsWorld world;
+    world.open([&](Form2& f) {
+        f.Command4.click();
+        f.Command2.click();
+        EXPECT_EQ(world.happened(), (Log{"what's this?", "about"}));
+    });
+}
+
 TEST(OptionsWindow, TheGuideExplainsEverythingThatTabReaches) {
     std::ifstream file(ZEPHYNE_DATA "/help/zephyne.hlp");
-    const std::string guide{std::istreambuf_iterator<char>(file), {}};
     OptionsWorld world;
-    world.services.help_text = [&](std::string_view topic) { return help_topic(guide, topic); };
+    world.guide.assign(std::istreambuf_iterator<char>(file), {});
     world.open([](Form2& f) {
         for (const Control* control : f.controls()) {
             if (control->tab_stop() == TabStop::no) continue;

@@ -85,7 +85,7 @@ Log World::happened() {
 
 std::vector<std::string> World::names(const ListBox& list) {
     std::vector<std::string> names;
-    for (const ListItem& item : list.items()) names.push_back(item.text);
+    for (const ListRow& row : list.items()) names.emplace_back(row.text);
     return names;
 }
 

@@ -21,6 +21,7 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -172,6 +173,19 @@ TEST_F(MirrorTest, TypingPassesTheKeyFirstAndThenTheWholeText) {
     EXPECT_EQ(widget<QLineEdit>(form.line)->text(), "fixed");
 }
 
+TEST_F(MirrorTest, MarkedTextIsKnownOnBothSides) {
+    form.line.set_text("proposal");
+    form.line.select_all();
+    EXPECT_EQ(widget<QLineEdit>(form.line)->selectedText(), "proposal");
+    QTest::keyClick(widget(form.line), Qt::Key_End);
+    EXPECT_EQ(form.line.selected_text(), "");
+    form.area.set_text("first\r\nsecond");
+    QTest::keyClick(widget(form.area), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(form.area.selected_text(), "first\nsecond");
+    form.area.set_text("other");
+    EXPECT_EQ(form.area.selected_text(), "");
+}
+
 TEST_F(MirrorTest, DraggingASliderRaisesOneChangeAtTheRelease) {
     QWidget* slider = widget(form.slider);
     const int middle = slider->height() / 2;
@@ -236,6 +250,16 @@ TEST_F(MirrorTest, EnterAndEscapePressTheAnswersUnlessAKeyHasTheFocus) {
     QTest::keyClick(widget(form.line), Qt::Key_Escape);
     QTest::keyClick(widget(form.inner), Qt::Key_Return);
     EXPECT_EQ(taken(), (Log{"ok", "inner", "inner"}));
+}
+
+TEST_F(MirrorTest, AltAndTheMarkedLetterPressAKeyThatShowsNoMark) {
+    form.inner.set_caption("&Inner && outer");
+    QTest::keyClick(widget(form.line), 'i', Qt::AltModifier);
+    EXPECT_EQ(taken(), Log{"inner"});
+    const auto names = window->findChildren<QAbstractButton*>();
+    EXPECT_TRUE(std::any_of(names.begin(), names.end(), [](const QAbstractButton* key) {
+        return key->accessibleName() == "Inner & outer";
+    }));
 }
 
 TEST_F(MirrorTest, ScreenReadersFindEachControlByKindAndNameAndCanPressIt) {
@@ -375,6 +399,39 @@ TEST_F(MirrorTest, AnAnimationPaintsOnlyItsOwnCorner) {
     EXPECT_TRUE(watch.painted.contains(corner));
 }
 
+TEST_F(MirrorTest, RowsAreSelectedWithMouseAndKeyboardByRangeAndByToggle) {
+    form.list.set_items({});
+    form.list.set_selecting(Selecting::extended);
+    form.list.set_items({{"one", ""}, {"two", ""}, {"three", ""}, {"four", ""}});
+    settle();
+    auto* view = widget<QListView>(form.list);
+    const auto click = [&](int row, Qt::KeyboardModifiers keys) {
+        const QPoint place = view->visualRect(view->model()->index(row, 0)).center();
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, keys, place);
+        settle();
+    };
+    using Rows = std::vector<std::size_t>;
+    click(1, {});
+    click(3, Qt::ControlModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{1, 3}));
+    click(1, Qt::ShiftModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{1, 2, 3}));
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(view, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{0, 1, 2, 3}));
+    QTest::keyClick(view, Qt::Key_Down);
+    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{1, 2}));
+
+    form.list.on_double_click = [&] { form.log.push_back("opened"); };
+    taken();
+    QTest::keyClick(view, Qt::Key_Return);
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {},
+                       view->visualRect(view->model()->index(2, 0)).center());
+    EXPECT_EQ(taken(), (Log{"opened", "opened"}));
+}
+
 // Counts what a view asks for.
 class CountingRows final : public Rows {
   public:
@@ -393,8 +450,8 @@ class CountingRows final : public Rows {
                    std::size_t) const override {
         ++questions;
     }
-    void pressed(std::size_t) override {}
-    void moved_to(std::size_t) override {}
+    void pressed(std::size_t, ClickWith) override {}
+    void moved_to(std::size_t, ClickWith) override {}
 };
 
 TEST_F(MirrorTest, AHundredThousandRowsAreShownWithoutAskingForEach) {

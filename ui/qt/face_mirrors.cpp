@@ -179,6 +179,9 @@ void PictureMirror::paint(QPainter& painter, const paint::Scale& scale) const {
         case ImageList::emblem:
             pictures::paint_emblem(painter, box());
             break;
+        case ImageList::light_bulb:
+            paint::light_bulb(painter, scale, box());
+            break;
     }
     if (is_stop()) {
         paint::focus_ring(painter, scale, clock_box(), paint::glass_radius,

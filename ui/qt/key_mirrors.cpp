@@ -28,6 +28,15 @@ paint::Pointer pointer_at(const QAbstractButton& key) {
     return key.underMouse() ? paint::Pointer::Over : paint::Pointer::Away;
 }
 
+// "&Next" is shown as "Next", and Alt+N presses it; "&&" stands for the sign itself.
+QString without_mnemonic(const std::string& caption) {
+    QString text = shown(caption);
+    for (qsizetype at = text.indexOf(u'&'); at >= 0; at = text.indexOf(u'&', at + 1)) {
+        text.remove(at, 1);
+    }
+    return text;
+}
+
 bool is_enter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
@@ -47,6 +56,11 @@ bool ButtonMirror::key_pressed(QKeyEvent& event) {
     return true;
 }
 
+void ButtonMirror::show_name() {
+    key_->setAccessibleName(without_mnemonic(button_.accessible_name()));
+    key_->setShortcut(QKeySequence::mnemonic(shown(button_.caption())));
+}
+
 void ButtonMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     paint::ControlState state = look();
     state.pointer = pointer_at(*key_);
@@ -57,7 +71,7 @@ void ButtonMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     } else if (button_.style() == Style::reset) {
         paint::glyph_button(painter, scale, box(), state, paint::Glyph::Reset);
     } else {
-        paint::button(painter, scale, box(), state, shown(button_.caption()));
+        paint::button(painter, scale, box(), state, without_mnemonic(button_.caption()));
     }
 }
 
@@ -163,7 +177,9 @@ void TransportMirror::laid_out() {
 
 void TransportMirror::show_property(Property property) {
     if (property != Property::enabled) return;
-    for (Key* key : keys_) key->setEnabled(transport_.transport_enabled());
+    for (std::size_t i = 0; i < key_count; ++i) {
+        keys_[i]->setEnabled(transport_.key_enabled(static_cast<TransportKey>(i)));
+    }
 }
 
 void TransportMirror::move_to(std::size_t key) {
@@ -189,7 +205,9 @@ bool TransportMirror::key_pressed(QKeyEvent& event) {
 
 void TransportMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     paint::TransportState state;
-    state.enabled = transport_.usable() && transport_.transport_enabled();
+    for (std::size_t i = 0; i < key_count; ++i) {
+        state.enabled[i] = transport_.usable() && keys_[i]->isEnabled();
+    }
     state.focus = window().focus_look(transport_);
     state.current = static_cast<paint::TransportKey>(current_);
     switch (transport_.light()) {

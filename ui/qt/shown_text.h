@@ -2,12 +2,12 @@
 #pragma once
 
 #include <QString>
-#include <string>
+#include <string_view>
 
 namespace zephyne {
 
 // What cannot be read as UTF-8 is shown as replacement signs.
-inline QString shown(const std::string& text) {
+inline QString shown(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
