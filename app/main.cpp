@@ -24,6 +24,7 @@
 #include "platform/sound/synthesizer_engine.h"
 #include "platform/sound/synthesizer_volume.h"
 #include "platform/video/mpv_backend.h"
+#include "playlists/drive_search_window.h"
 #include "playlists/open_playlist.h"
 #include "playlists/playlist_editor.h"
 #include "playlists/playlist_file.h"
@@ -101,9 +102,6 @@ class Zephyne {
           engine_(stage_),
           summary_(stage_),
           information_(stage_, windows_),
-          about_(program_, windows_, {ZEPHYNE_VERSION, libraries_in_use}),
-          help_(program_, files_, help_viewer_),
-          web_links_(program_, files_, pages_),
           notes_(stage_, windows_),
           volume_(stage_, midi_volume_),
           file_commands_(stage_, engine_, questions_, file_manager_),
@@ -119,8 +117,12 @@ class Zephyne {
           open_playlist_(stage_, engine_.order, playlist_file_),
           playlist_editor_(stage_, engine_, scheduler, windows_, playlist_file_,
                            {audition_sequencer_, audition_wave_, audition_video_}),
+          drive_search_(stage_, scheduler, windows_),
+          about_(program_, windows_, {ZEPHYNE_VERSION, libraries_in_use}),
+          help_(program_, files_, help_viewer_),
+          web_links_(program_, files_, pages_),
           layout_(stage_, windows_),
-          options_(stage_, engine_, layout_, windows_, options_services()),
+          options_(stage_, engine_, layout_, windows_, options_services_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
           shut_down_(stage_, engine_),
           commands_(stage_, layout_,
@@ -137,32 +139,33 @@ class Zephyne {
         };
         stage_.services.setvolume = [this] { volume_.setvolume(); };
         tray_menu_.put_away = [this] { layout_.put_away(); };
-        tray_menu_.show_about = [this] { about_.show(); };
-        quick_tips_.show_help = [this] { help_.show_contents(); };
         start_up_.load_tray = [this] { tray_menu_.load(); };
         start_up_.show_quick_tip = [this] {
             if (quick_tips_.tips_at_start()) quick_tips_.show();
         };
         start_up_.choose_volume_device = [this] { volume_.start(); };
         start_up_.show_presets = [this] { presets_.show_tooltips(); };
+        playlist_editor_.show_drive_search = [this](EditedPlaylist& playlist) {
+            drive_search_.show(playlist);
+        };
         shut_down_.close_notes = [this] { notes_.unload(); };
         shut_down_.unload_tray = [this] { tray_menu_.unload(); };
+        tray_menu_.show_about = [this] { about_.show(); };
+        quick_tips_.show_help = [this] { help_.show_contents(); };
+        options_services_.load_tray = [this] { tray_menu_.load(); };
+        options_services_.unload_tray = [this] { tray_menu_.unload(); };
+        options_services_.tray_loaded = [this] { return tray_menu_.loaded(); };
+        options_services_.unload_notes = [this] { notes_.unload(); };
+        options_services_.unload_quick_tip = [this] { quick_tips_.unload(); };
+        options_services_.tips_at_start = [this] { return quick_tips_.tips_at_start(); };
+        options_services_.set_tips_at_start = [this](bool wanted) {
+            quick_tips_.set_tips_at_start(wanted);
+        };
+        options_services_.show_about = [this] { about_.show(); };
+        options_services_.ask_whats_this = [this] { help_.ask_whats_this(); };
+        options_services_.help_text = [this](std::string_view topic) { return help_.topic(topic); };
         shut_down_.close_help = [this] { help_.close(); };
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
-    }
-
-    // What the Options window needs of the other rooms.
-    OptionsServices options_services() {
-        return {.load_tray = [this] { tray_menu_.load(); },
-                .unload_tray = [this] { tray_menu_.unload(); },
-                .tray_loaded = [this] { return tray_menu_.loaded(); },
-                .unload_notes = [this] { notes_.unload(); },
-                .unload_quick_tip = [this] { quick_tips_.unload(); },
-                .tips_at_start = [this] { return quick_tips_.tips_at_start(); },
-                .set_tips_at_start = [this](bool on) { quick_tips_.set_tips_at_start(on); },
-                .show_about = [this] { about_.show(); },
-                .ask_whats_this = [this] { help_.ask_whats_this(); },
-                .help_text = [this](std::string_view topic) { return help_.topic(topic); }};
     }
 
     Started start(const std::string& command_line) { return start_up_.Form_Load(command_line); }
@@ -196,11 +199,6 @@ class Zephyne {
     Engine engine_;
     SongSummary summary_;
     InformationWindow information_;
-    AboutBox about_;
-    QtHelpViewer help_viewer_{user_scale_factor()};
-    Help help_;
-    DesktopPages pages_;
-    WebLinks web_links_;
     SongNotes notes_;
     VolumeControl volume_;
     FileCommands file_commands_;
@@ -215,7 +213,14 @@ class Zephyne {
     PlaylistFile playlist_file_;
     OpenPlaylist open_playlist_;
     PlaylistEditor playlist_editor_;
+    DriveSearchWindow drive_search_;
+    AboutBox about_;
+    QtHelpViewer help_viewer_{user_scale_factor()};
+    Help help_;
+    DesktopPages pages_;
+    WebLinks web_links_;
     MainWindowLayout layout_;
+    OptionsServices options_services_;
     OptionsWindow options_;
     StartUp start_up_;
     ShutDown shut_down_;

@@ -14,7 +14,8 @@ namespace zephyne {
 struct AboutFacts {
     std::string version;  // "0.1.0"
 
-    // Asked for when the box is shown: "FluidSynth 2.3.1". Four at most fit.
+    // "FluidSynth 2.3.1"; four at most fit. Asked when the box opens, because some libraries are
+    // loaded late.
     std::function<std::vector<std::string>()> libraries;
 };
 

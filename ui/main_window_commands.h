@@ -17,14 +17,19 @@
 //   "Help"                 Command10                                 here, Help::show_contents
 //   "Hide"                 Command11                                 here, Command11_Click
 //   "Web Links"            Command12                                 here, WebLinks::show
-//   F2                     the window's key-up event                 here, renamefile
+//   "Tips..."              Command21                                 QuickTips
+//   Volume                 Slider2, Slider3, Check1, Command14       VolumeControl
+//   Presets                preset(1) to preset(12), Command8,
+//                          Command15, Command17                      Presets
+//   "View"                 Command16                                 ViewPresets
+//   "Rename"               Command18, and F2                         FileCommands::renamefile
+//   "Delete"               Command4                                  FileCommands
+//   "Move"                 Command5                                  MoveFile
+//   "Folder", "Explore"    Command22, Command23, Command24           FileCommands
+//   "Note..."              Command7                                  SongNotes
+//   Playlists              Command13, Command20                      PlaylistEditor, OpenPlaylist
 //   Close box              the window's unload                       ShutDown
 //   Size, activation       the window's own events                   StartUp
-//
-// The volume keys (Command14, Check1, Slider2, Slider3), the file keys (Command4, Command5,
-// Command18, Command22, Command23, Command24), "Note..." (Command7), the presets (preset(1) to
-// preset(12), Command8, Command15, Command16, Command17), the playlist keys (Command13, Command20)
-// and "Tips..." (Command21) are taken by the room that each belongs to.
 #pragma once
 
 #include "engine/stage.h"

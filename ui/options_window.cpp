@@ -15,13 +15,13 @@ constexpr char32_t kBackspace = 8;
 }  // namespace
 
 OptionsWindow::OptionsWindow(Stage& stage, Engine& engine, MainWindowLayout& layout,
-                             WindowHost& windows, OptionsServices services)
+                             WindowHost& windows, OptionsServices& services)
     : stage_(stage),
       engine_(engine),
       layout_(layout),
       windows_(windows),
-      services_(std::move(services)),
-      kill_(stage, services_.unload_notes) {}
+      services_(services),
+      kill_(stage, services.unload_notes) {}
 
 OptionsWindow::~OptionsWindow() {
     if (form_) windows_.destroy(*form_);

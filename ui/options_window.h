@@ -21,8 +21,9 @@ namespace zephyne {
 
 class OptionsWindow {
   public:
+    // The services may be filled in later, until the window is first shown.
     OptionsWindow(Stage& stage, Engine& engine, MainWindowLayout& layout, WindowHost& windows,
-                  OptionsServices services);
+                  OptionsServices& services);
     ~OptionsWindow();
 
     // "Options..." of the main window: shows the window until it is closed. Nothing happens while
@@ -49,7 +50,7 @@ class OptionsWindow {
     Engine& engine_;
     MainWindowLayout& layout_;
     WindowHost& windows_;
-    const OptionsServices services_;
+    OptionsServices& services_;
     KillCommands kill_;
     std::unique_ptr<Form2> form_;
     OptionsMarks marks_;

@@ -82,8 +82,8 @@ enum class ImageList {
     loudspeaker,  // one still picture
     sound_waves,  // frames 1..7
     note_pad,     // one still picture
-    emblem,       // one still picture: the program's own
     light_bulb,   // one still picture
+    emblem,       // one still picture: the program's own
 };
 
 // The image indexes, in one place.

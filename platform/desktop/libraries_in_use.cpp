@@ -1,7 +1,5 @@
 #include "platform/desktop/libraries_in_use.h"
 
-#include "platform/sound/synthesizer_library.h"
-
 #include <fluidsynth.h>
 #include <utf8proc.h>
 
@@ -10,13 +8,10 @@
 namespace zephyne {
 
 std::vector<std::string> libraries_in_use() {
-    std::vector<std::string> libraries = {std::string("Qt ") + qVersion()};
-    if (load_synthesizer_library()) {
-        libraries.push_back(std::string("FluidSynth ") + fluid_version_str());
-    }
-    libraries.push_back("mpv, for wave and video files");
-    libraries.push_back(std::string("utf8proc ") + utf8proc_version());
-    return libraries;
+    const char* synthesizer = fluid_version_str();
+    return {std::string("Qt ") + qVersion(),
+            std::string("FluidSynth ") + (synthesizer ? synthesizer : "(not loaded)"),
+            "mpv, for wave and video files", std::string("utf8proc ") + utf8proc_version()};
 }
 
 }  // namespace zephyne

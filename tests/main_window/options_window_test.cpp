@@ -1,4 +1,5 @@
 // What the Options window shows and does while it is open.
+#include "shell/help_topics.h"
 #include "tests/main_window/options_world.h"
 
 #include <gtest/gtest.h>
@@ -187,6 +188,8 @@ TEST(OptionsWindow, TheKillCommandsAskFirstAndDeleteOnlyTheirKind) {
 
 TEST(OptionsWindow, HelpAndAboutLeadOutOfIt) {
     OptionsWorld world;
+    world.services.show_about = [&] { world.log.push_back("about"); };
+    world.services.ask_whats_this = [&] { world.log.push_back("what's this?"); };
     world.open([&](Form2& f) {
         f.Command4.click();
         f.Command2.click();
@@ -196,8 +199,9 @@ TEST(OptionsWindow, HelpAndAboutLeadOutOfIt) {
 
 TEST(OptionsWindow, TheGuideExplainsEverythingThatTabReaches) {
     std::ifstream file(ZEPHYNE_DATA "/help/zephyne.hlp");
+    const std::string guide{std::istreambuf_iterator<char>(file), {}};
     OptionsWorld world;
-    world.guide.assign(std::istreambuf_iterator<char>(file), {});
+    world.services.help_text = [&](std::string_view topic) { return help_topic(guide, topic); };
     world.open([](Form2& f) {
         for (const Control* control : f.controls()) {
             if (control->tab_stop() == TabStop::no) continue;

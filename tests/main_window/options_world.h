@@ -2,13 +2,11 @@
 // around it are asked for, when its windows come and go, and what the device does.
 #pragma once
 
-#include "shell/help_topics.h"
 #include "tests/support/program_world.h"
 #include "ui/options_window.h"
 
 #include <functional>
 #include <string>
-#include <string_view>
 #include <utility>
 
 namespace zephyne::test {
@@ -17,6 +15,15 @@ class OptionsWorld : public ProgramWorld {
   public:
     // Random mode at rest in a.mid, without resets, so that the log stays short.
     explicit OptionsWorld(const std::string& settings = {}) : ProgramWorld({"a.mid", "b.mid"}) {
+        services.load_tray = [this] { log.push_back("tray icon"), icon = true; };
+        services.unload_tray = [this] { log.push_back("no tray icon"), icon = false; };
+        services.tray_loaded = [this] { return icon; };
+        services.unload_notes = [this] { log.push_back("notes closed"); };
+        services.unload_quick_tip = [this] { log.push_back("tip closed"); };
+        services.tips_at_start = [this] { return tips; };
+        services.set_tips_at_start = [this](bool on) {
+            log.push_back(on ? "tips at start" : "no tips at start");
+        };
         start_up.load_tray = [this] { icon = true; };
         windows.on_modal = [this](Form& shown) {
             auto& form2 = dynamic_cast<Form2&>(shown);
@@ -42,27 +49,12 @@ class OptionsWorld : public ProgramWorld {
         });
     }
 
-    OptionsWindow options{stage, *engine, layout, windows, services()};
-    std::string guide;  // the help file
+    OptionsServices services;
+    OptionsWindow options{stage, *engine, layout, windows, services};
     bool icon = false;
     bool tips = false;
 
   private:
-    OptionsServices services() {
-        const auto say = [this](const char* what) { return [this, what] { log.push_back(what); }; };
-        return {.load_tray = [this] { log.push_back("tray icon"), icon = true; },
-                .unload_tray = [this] { log.push_back("no tray icon"), icon = false; },
-                .tray_loaded = [this] { return icon; },
-                .unload_notes = say("notes closed"),
-                .unload_quick_tip = say("tip closed"),
-                .tips_at_start = [this] { return tips; },
-                .set_tips_at_start =
-                    [this](bool on) { log.push_back(on ? "tips at start" : "no tips at start"); },
-                .show_about = say("about"),
-                .ask_whats_this = say("what's this?"),
-                .help_text = [this](std::string_view topic) { return help_topic(guide, topic); }};
-    }
-
     class Watcher final : public zephyne::ControlObserver {
       public:
         explicit Watcher(OptionsWorld& world) : world_(world) {}

@@ -176,11 +176,11 @@ void PictureMirror::paint(QPainter& painter, const paint::Scale& scale) const {
         case ImageList::note_pad:
             paint::note_pad(painter, scale, box());
             break;
-        case ImageList::emblem:
-            pictures::paint_emblem(painter, box());
-            break;
         case ImageList::light_bulb:
             paint::light_bulb(painter, scale, box());
+            break;
+        case ImageList::emblem:
+            pictures::paint_emblem(painter, box());
             break;
     }
     if (is_stop()) {
