@@ -186,6 +186,17 @@ TEST(OptionsWindow, TheKillCommandsAskFirstAndDeleteOnlyTheirKind) {
     EXPECT_TRUE(playlist.files.exists(playlist.path("a.nte")));
 }
 
+TEST(OptionsWindow, HelpAndAboutLeadOutOfIt) {
+    OptionsWorld world;
+    world.services.show_about = [&] { world.log.push_back("about"); };
+    world.services.ask_whats_this = [&] { world.log.push_back("what's this?"); };
+    world.open([&](Form2& f) {
+        f.Command4.click();
+        f.Command2.click();
+        EXPECT_EQ(world.happened(), (Log{"what's this?", "about"}));
+    });
+}
+
 TEST(OptionsWindow, TheGuideExplainsEverythingThatTabReaches) {
     std::ifstream file(ZEPHYNE_DATA "/help/zephyne.hlp");
     const std::string guide{std::istreambuf_iterator<char>(file), {}};

@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QTextDocument>
 #include <QUrl>
+#include <algorithm>
 #include <cmath>
 
 namespace zephyne {
@@ -24,6 +25,7 @@ constexpr int kMargin = 12;
 constexpr int kGap = 8;
 constexpr int kPageMargin = 14;
 constexpr int kIndent = 20;
+constexpr int kBesidePictures = 2 * (kMargin + kPageMargin) + 12;  // with the scroll bar
 
 int scaled(int length, double factor) {
     return static_cast<int>(std::lround(length * factor));
@@ -42,7 +44,9 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
     if (type != QTextDocument::ImageResource) return QTextBrowser::loadResource(type, name);
     const QImage image(document()->baseUrl().resolved(name).toLocalFile());
     if (image.isNull()) return {};
-    return image.scaledToWidth(scaled(image.width(), factor_), Qt::SmoothTransformation);
+    const int room = window()->width() - scaled(kBesidePictures, factor_);
+    return image.scaledToWidth(std::min(scaled(image.width(), factor_), room),
+                               Qt::SmoothTransformation);
 }
 
 HelpWindow::HelpWindow(double factor) : page_(new HelpPage(this, factor)) {

@@ -36,7 +36,7 @@ QString filled_in(QString sheet, double factor) {
                                                      {"$thumb", palette::scroll_thumb},
                                                      {"$off", palette::key_off}};
     for (const auto& [name, color] : colors) sheet.replace(QLatin1String(name), color.name());
-    for (const int length : {1, 2, 3, 4, 6, 9, 11, 12, 14, 16, 18, 20, 22}) {
+    for (const int length : {1, 2, 3, 4, 9, 11, 12, 14, 16, 22}) {
         sheet.replace(QStringLiteral("(%1)").arg(length),
                       QStringLiteral("%1px").arg(scale.px(length)));
     }
@@ -86,41 +86,38 @@ QString whats_this(double factor) {
 
 QString help_window(double factor) {
     return filled_in(
-        QStringLiteral(
-            "QWidget#help { background: $face; }"
-            "QPushButton { color: $text; font: 500 (11) \"$family\"; padding: (4) (12);"
-            " border: (1) solid $outline; border-radius: (3);"
-            " background: qlineargradient(x1:0,y1:0,x2:0,y2:1,"
-            "stop:0 $keytop,stop:1 $keyend); }"
-            "QPushButton:hover { background: qlineargradient(x1:0,y1:0,x2:0,y2:1,"
-            "stop:0 $hovertop,stop:1 $hoverend); }"
-            "QPushButton:pressed { background: $well; }"
-            "QPushButton:focus { border-color: $link; }"
-            "QPushButton:disabled { background: $off; color: $quiet; }"
-            "QTextBrowser { background: $well; color: $prose; border: (1) solid $outline;"
-            " selection-background-color: $selection; selection-color: $lit; }"
-            "QTextBrowser:focus { border-color: $link; }"
-            "QScrollBar:vertical { background: $track; width: (9); margin: 0; }"
-            "QScrollBar::handle:vertical { background: $thumb; min-height: (16);"
-            " border-radius: (2); margin: 0 (2); }"
-            "QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }"
-            "QScrollBar::add-page, QScrollBar::sub-page { background: $track; }"),
+        QStringLiteral("QWidget#help { background: $face; }"
+                       "QPushButton { color: $text; font: 500 (11) \"$family\"; padding: (4) (12);"
+                       " border: (1) solid $outline; border-radius: (3);"
+                       " background: qlineargradient(x1:0,y1:0,x2:0,y2:1,"
+                       "stop:0 $keytop,stop:1 $keyend); }"
+                       "QPushButton:hover { background: qlineargradient(x1:0,y1:0,x2:0,y2:1,"
+                       "stop:0 $hovertop,stop:1 $hoverend); }"
+                       "QPushButton:pressed { background: $well; }"
+                       "QPushButton:focus { border-color: $link; }"
+                       "QPushButton:disabled { background: $off; color: $quiet; }"
+                       "QTextBrowser { font: 400 (12) \"$family\"; background: $well; color: "
+                       "$prose; border: (1) solid $outline;"
+                       " selection-background-color: $selection; selection-color: $lit; }"
+                       "QTextBrowser:focus { border-color: $link; }"
+                       "QScrollBar:vertical { background: $track; width: (9); margin: 0; }"
+                       "QScrollBar::handle:vertical { background: $thumb; min-height: (16);"
+                       " border-radius: (2); margin: 0 (2); }"
+                       "QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }"
+                       "QScrollBar::add-page, QScrollBar::sub-page { background: $track; }"),
         factor);
 }
 
+// The headings keep Qt's sizes, which follow from the window's font.
 QString help_document(double factor) {
-    return filled_in(
-        QStringLiteral("body, p, li, td, th, pre { font: 400 (12) \"$family\"; line-height: 125%;"
-                       " color: $prose; }"
-                       "h1 { font: 600 (20) \"$family\"; color: $lit; }"
-                       "h2 { font: 600 (16) \"$family\"; color: $lit;"
-                       " margin-top: (22); }"
-                       "h3 { font: 600 (12) \"$family\"; color: $text;"
-                       " margin-top: (14); }"
-                       "b, th { font-weight: 600; color: $text; }"
-                       "code, pre { font-family: monospace; color: $text; }"
-                       "a { color: $link; text-decoration: none; }"),
-        factor);
+    return filled_in(QStringLiteral("p, li, td, th, pre { line-height: 125%; }"
+                                    "h1, h2 { font-weight: 600; color: $lit; }"
+                                    "h2 { margin-top: (22); }"
+                                    "h3 { font-weight: 600; color: $text; margin-top: (14); }"
+                                    "b, th { font-weight: 600; color: $text; }"
+                                    "code, pre { font-family: monospace; color: $text; }"
+                                    "a { color: $link; text-decoration: none; }"),
+                     factor);
 }
 
 void run_menu(QMenu* menu, double factor, const QPoint& screen_point) {
