@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <vector>
+
 namespace zephyne::test {
 namespace {
 
@@ -98,6 +101,48 @@ TEST(APlaylistFromTheOldPlatform, IsFoundBelowTheFolderThatTheUserPointsAt) {
     EXPECT_EQ(world.lines(), (Log{"a.mid|/music/", "a.mid|c:\\gone\\", "e.mid|/more/extra/",
                                   "MAPLE.MID|/old/Midi/Rags/"}));
     EXPECT_EQ(load({}), Log{"dialog: open .lst"}) << "both places are known by now";
+}
+
+// The player lets events run in the middle of its steps, and the two keys may be pressed then.
+TEST(ANewPlaylist, LeavesThePlayerWholeWheneverItComes) {
+    using Act = std::function<void(PlaylistWorld&)>;
+    const std::vector<Act> acts = {
+        [](PlaylistWorld& world) { world.click("b.mid"); },
+        [](PlaylistWorld& world) { world.form.Command9.click(); },
+        [](PlaylistWorld& world) { world.engine->order.RefillAndPlayNext(); },
+        [](PlaylistWorld& world) { world.form.MMControl1.press(TransportKey::stop); },
+    };
+    const std::vector<Act> intruders = {
+        [](PlaylistWorld& world) { world.load(kHeader + "x.mid|/other/"); },
+        [](PlaylistWorld& world) {
+            world.edit([](Form9& form) { form.Command7.click(); });
+        },
+        [](PlaylistWorld& world) { world.load(kHeader); },
+    };
+    for (const std::int32_t mode : {PlayMode::Alpha, PlayMode::Manual}) {
+        for (std::size_t act = 0; act < acts.size(); ++act) {
+            for (std::size_t intruder = 0; intruder < intruders.size(); ++intruder) {
+                for (int at = 1; at <= 8; ++at) {
+                    SCOPED_TRACE("act " + std::to_string(act) + ", intruder " +
+                                 std::to_string(intruder) + " at pump " + std::to_string(at));
+                    PlaylistWorld world;
+                    world.settings().AutoReset = 1;
+                    world.load(kHeader + "a.mid|/music/\nb.mid|/music/\nc.rmi|/music/\n");
+                    world.settings().Mode = mode;
+                    world.click("a.mid");
+                    int pumps = 0;
+                    world.pump.on_pump = [&] {
+                        if (++pumps == at) intruders[intruder](world);
+                    };
+                    acts[act](world);
+                    world.run_for(1000);
+                    world.expect_in_step(world.form.File1);
+                    world.expect_flags_at_rest();
+                    world.expect_title_tells_the_truth();
+                }
+            }
+        }
+    }
 }
 
 class SavingAPlaylist : public testing::Test {
