@@ -7,11 +7,13 @@
 #include "engine/media_device.h"
 #include "engine/stage.h"
 #include "platform/desktop/desktop_beeper.h"
+#include "platform/desktop/desktop_clipboard.h"
 #include "platform/desktop/desktop_file_manager.h"
 #include "platform/desktop/local_hand_over.h"
 #include "platform/desktop/mersenne_random.h"
 #include "platform/desktop/program_start.h"
 #include "platform/desktop/qt_event_pump.h"
+#include "platform/desktop/qt_notification_area.h"
 #include "platform/desktop/signal_watcher.h"
 #include "platform/desktop/steady_clock.h"
 #include "platform/files/posix_file_system.h"
@@ -25,6 +27,9 @@
 #include "playlists/playlist_file.h"
 #include "shell/input_box.h"
 #include "shell/message_box.h"
+#include "shell/profile_strings.h"
+#include "shell/quick_tips.h"
+#include "shell/tray_menu.h"
 #include "songdata/file_commands.h"
 #include "songdata/information_window.h"
 #include "songdata/move_file.h"
@@ -34,13 +39,16 @@
 #include "songdata/view_presets.h"
 #include "songdata/volume_control.h"
 #include "ui/main_window_layout.h"
+#include "ui/qt/pictures.h"
 #include "ui/qt/pixels.h"
+#include "ui/qt/popup_look.h"
 #include "ui/qt/qt_file_dialogs.h"
 #include "ui/qt/qt_window_host.h"
 #include "ui/shut_down.h"
 #include "ui/start_up.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QSessionManager>
 #include <QTimer>
 #include <clocale>
@@ -70,7 +78,9 @@ class Zephyne {
     Zephyne(PosixFileSystem& files, Scheduler& scheduler, LocalHandOver& hand_over)
         : files_(files),
           form_(files_, scheduler),
+          tray_(scheduler),
           pump_(scheduler),
+          profiles_(files_),
           messages_(program_, scheduler, windows_, beeper_),
           synthesizer_(scheduler, {.sound_font = environment("ZEPHYNE_SOUNDFONT")},
                        make_audio_output(environment("ZEPHYNE_AUDIO"))),
@@ -89,6 +99,8 @@ class Zephyne {
           move_file_(stage_, engine_, windows_),
           presets_(stage_, engine_),
           view_presets_(stage_, windows_),
+          tray_menu_(stage_, engine_, windows_, notification_area_),
+          quick_tips_(stage_, windows_, profiles_, clipboard_),
           audition_sequencer_(scheduler, synthesizer_),
           audition_wave_(scheduler, environment("ZEPHYNE_AUDIO")),
           audition_video_(scheduler, environment("ZEPHYNE_AUDIO")),
@@ -102,12 +114,20 @@ class Zephyne {
         program_.folders = program_folders(files_, start_surroundings());
         midi_volume_.keep_in(joined(program_.folders.own, "midi-volume", files_.path_style()));
         windows_.create(form_);
+        popup_look::dress_tooltips(user_scale_factor());
         synthesizer_.on_problem = [this](const std::string& sentence) {
             messages_.ShowDlgMessage(sentence, 0, "Zephyne");
+        };
+        stage_.services.setvolume = [this] { volume_.setvolume(); };
+        tray_menu_.put_away = [this] { layout_.put_away(); };
+        start_up_.load_tray = [this] { tray_menu_.load(); };
+        start_up_.show_quick_tip = [this] {
+            if (quick_tips_.tips_at_start()) quick_tips_.show();
         };
         start_up_.choose_volume_device = [this] { volume_.start(); };
         start_up_.show_presets = [this] { presets_.show_tooltips(); };
         shut_down_.close_notes = [this] { notes_.unload(); };
+        shut_down_.unload_tray = [this] { tray_menu_.unload(); };
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
 
@@ -121,10 +141,14 @@ class Zephyne {
     Form1 form_;
     TrayForm tray_;
     QtEventPump pump_;
-    QtWindowHost windows_{user_scale_factor()};
+    QtWindowHost windows_{user_scale_factor(), [this] { return tray_menu_.reachable(); }};
+    QtNotificationArea notification_area_{pictures::tray_icon(),
+                                          popup_look::menu(user_scale_factor())};
     QtFileDialogs file_dialogs_{user_scale_factor()};
     DesktopBeeper beeper_;
+    DesktopClipboard clipboard_;
     MersenneRandom random_;
+    ProfileStrings profiles_;
     MessageBox messages_;
     InputBox questions_{program_, windows_};
     DesktopFileManager file_manager_;
@@ -144,6 +168,8 @@ class Zephyne {
     MoveFile move_file_;
     Presets presets_;
     ViewPresets view_presets_;
+    TrayMenu tray_menu_;
+    QuickTips quick_tips_;
     SequencerBackend audition_sequencer_;
     MpvBackend audition_wave_;
     MpvBackend audition_video_;
@@ -174,6 +200,7 @@ int main(int argc, char** argv) {
     const SteadyClock clock;
     Scheduler scheduler(clock);
     LocalHandOver hand_over(scheduler);
+    if (give_way(hand_over, line)) return 0;
     PosixFileSystem file_system;
     Zephyne zephyne(file_system, scheduler, hand_over);
 
@@ -185,5 +212,8 @@ int main(int argc, char** argv) {
     QTimer::singleShot(0, &application, [&] {
         if (zephyne.start(line) == Started::ended) QCoreApplication::exit(0);
     });
+    // After the window, which need not wait until its icon is drawn in all sizes.
+    QTimer::singleShot(0, &application,
+                       [] { QApplication::setWindowIcon(pictures::application_icon()); });
     return QApplication::exec();
 }

@@ -48,7 +48,7 @@ bool measure(const char* sound_font, const char* path) {
     const auto song = read_song_file(path);
     const auto synthesizer = std::make_unique<Synthesizer>();
     const auto renderer = std::make_unique<SongRenderer>(*synthesizer);
-    if (!song || !synthesizer->load_sound_font(sound_font)) {
+    if (!song || !synthesizer->open() || !synthesizer->load_sound_font(sound_font)) {
         std::fprintf(stderr, "%s: %s\n", path, song ? "no sound font" : song.error().c_str());
         return false;
     }

@@ -43,7 +43,7 @@ class PlayOrder final : public NextSong {
     // The file is gone, or has another name now: RemainingList no longer holds it under the old.
     // Which song comes next does not change by that.
     void drop(const std::string& real_name);
-    void rename(const std::string& real_name, ListItem renamed);
+    void rename(const std::string& real_name, const ListItem& renamed);
 
     // The counter beside "Total:", alone or with the one beside "Remaining:".
     void show_total();
@@ -53,6 +53,7 @@ class PlayOrder final : public NextSong {
     std::function<void()> refreshfiles;
 
   private:
+    const ListBox& all_songs() const;
     std::size_t choose() const;
     void advance_after(std::size_t chosen, std::size_t count);
     void Command19_Click();

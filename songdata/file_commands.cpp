@@ -95,9 +95,9 @@ void FileCommands::show_renamed(const std::string& old_name, const std::string& 
     Form1& f = stage_.form;
     const auto& songs = f.File1.items();
     auto found = std::find_if(songs.begin(), songs.end(),
-                              [&](const ListItem& song) { return song.real() == name; });
+                              [&](const ListRow& song) { return song.real() == name; });
     if (found == songs.end()) {
-        found = std::find_if(songs.begin(), songs.end(), [&](const ListItem& song) {
+        found = std::find_if(songs.begin(), songs.end(), [&](const ListRow& song) {
             return equal_ignoring_case(song.text, name);
         });
     }

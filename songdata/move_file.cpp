@@ -3,7 +3,6 @@
 #include "songdata/file_commands.h"
 
 #include <utility>
-#include <vector>
 
 namespace zephyne {
 
@@ -27,8 +26,7 @@ bool MoveFile::find_source() {
     const Program& program = stage_.program;
     const PathStyle style = stage_.files.path_style();
     if (program.settings.Mode != PlayMode::Queue) {
-        const ListItem& song = stage_.form.File1.item(*stage_.form.File1.selected());
-        name_ = song.real();
+        name_ = stage_.form.File1.item(*stage_.form.File1.selected()).real();
         source_ = joined(stage_.form.Dir1.path(), name_, style);
         return true;
     }
@@ -79,12 +77,11 @@ void MoveFile::show() {
 void MoveFile::show_destination() {
     const std::string& folder = form_->Dir1.path();
     form_->Text1.set_text(joined(folder, name_, stage_.files.path_style()));
-    std::vector<ListItem> items;
-    auto names = stage_.files.list_files(folder);
-    if (names) {
-        for (std::string& name : *names) items.push_back({std::move(name), {}});
+    ListRows rows;
+    if (const auto names = stage_.files.list_files(folder)) {
+        for (const std::string& name : *names) rows.append({name, {}});
     }
-    form_->File1.set_items(std::move(items));
+    form_->File1.set_items(std::move(rows));
 }
 
 void MoveFile::Drive1_Change() {

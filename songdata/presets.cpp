@@ -111,7 +111,7 @@ void Presets::store(std::size_t index) {
 
 // The name as it is listed, unless that would not tell which of two files is meant.
 std::string Presets::lasting_name(std::size_t row) const {
-    const ListItem& song = stage_.form.File1.item(row);
+    const ListItem song = stage_.form.File1.item(row);
     const std::string& folder = stage_.form.Dir1.path();
     const PathStyle style = stage_.files.path_style();
     const auto found = stage_.files.resolve(joined(folder, song.text, style));
@@ -202,7 +202,7 @@ void Presets::play_song(std::size_t index, const std::string& path, bool moved) 
     const auto row = row_of(name);
     if (row) {
         f.File1.set_selected(row);
-        program.CurrentSongName = f.File1.item(*row).text;
+        program.CurrentSongName = std::string(f.File1.item(*row).text);
     }
     if (program.settings.Mode != PlayMode::Manual && moved) {
         if (program.settings.Continuous == 1 || !row) {
@@ -237,7 +237,7 @@ void Presets::path_not_found(std::size_t index, const std::string& folder, std::
     engine_.songs.refreshfiles();
     const auto& songs = f.File1.items();
     const auto found = std::find_if(songs.begin(), songs.end(),
-                                    [&](const ListItem& song) { return song.text == selected; });
+                                    [&](const ListRow& song) { return song.text == selected; });
     if (found != songs.end()) {
         f.File1.set_selected(static_cast<std::size_t>(found - songs.begin()));
     }

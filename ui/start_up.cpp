@@ -15,6 +15,13 @@ constexpr Milliseconds kPollInterval = 1500;
 
 }  // namespace
 
+bool give_way(HandOver& hand_over, const std::string& command_line) {
+    if (!hand_over.another_copy_runs()) return false;
+    hand_over.bring_forward();
+    if (!command_line.empty()) hand_over.poke(command_line);
+    return true;
+}
+
 StartUp::StartUp(Stage& stage, Engine& engine, MainWindowLayout& layout, WindowHost& windows,
                  HandOver& hand_over)
     : stage_(stage), engine_(engine), layout_(layout), windows_(windows), hand_over_(hand_over) {
@@ -34,18 +41,10 @@ void StartUp::come_forward() {
 
 Started StartUp::Form_Load(const std::string& command_line) {
     if (choose_volume_device) choose_volume_device();
-    if (give_way(command_line)) return Started::ended;
     set_up();
     if (!command_line.empty()) return start_queue(command_line);
     start_normally();
     return Started::normal;
-}
-
-bool StartUp::give_way(const std::string& command_line) {
-    if (!hand_over_.another_copy_runs()) return false;
-    hand_over_.bring_forward();
-    if (!command_line.empty()) hand_over_.poke(command_line);
-    return true;
 }
 
 void StartUp::set_up() {

@@ -16,8 +16,12 @@ namespace zephyne {
 enum class Started {
     normal,
     queue,  // the compact player of a copy started with a song
-    ended,  // another copy runs, or the song on the command line cannot be read
+    ended,  // the song on the command line cannot be read
 };
+
+// Where another copy runs, brings that to the front, hands it the command line ("" when there is
+// none), and returns true: this copy has nothing to do. To be asked before anything else is built.
+bool give_way(HandOver& hand_over, const std::string& command_line);
 
 class StartUp {
   public:
@@ -39,7 +43,6 @@ class StartUp {
     std::function<void()> show_quick_tip;
 
   private:
-    bool give_way(const std::string& command_line);
     void set_up();
     Started start_queue(const std::string& song);
     void start_normally();

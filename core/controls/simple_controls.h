@@ -84,6 +84,7 @@ enum class ImageList {
     loudspeaker,  // one still picture
     sound_waves,  // frames 1..7
     note_pad,     // one still picture
+    light_bulb,   // one still picture
 };
 
 // The image indexes, in one place.

@@ -1,6 +1,7 @@
 #include "platform/sound/library_audio_device.h"
 
 #include "platform/sound/sample_time.h"
+#include "platform/sound/synthesizer_library.h"
 
 #include <fluidsynth.h>
 
@@ -57,6 +58,7 @@ class LibraryAudioDevice final : public AudioDevice {
 
 std::unique_ptr<AudioDevice> open_library_device(const std::string& driver,
                                                  std::shared_ptr<AudioGate> gate) {
+    if (!load_synthesizer_library()) return nullptr;
     auto device = std::make_unique<LibraryAudioDevice>(driver, std::move(gate));
     if (!device->usable()) return nullptr;
     return device;

@@ -1,6 +1,7 @@
 #include "platform/sound/synthesizer.h"
 
 #include "platform/sound/sample_time.h"
+#include "platform/sound/synthesizer_library.h"
 
 #include <algorithm>
 #include <array>
@@ -37,11 +38,15 @@ fluid_settings_t* make_settings() {
 
 }  // namespace
 
-Synthesizer::Synthesizer() : settings_(make_settings()), synth_(new_fluid_synth(settings_.get())) {
-    if (!synth_) throw std::bad_alloc();
-}
-
 Synthesizer::~Synthesizer() = default;
+
+bool Synthesizer::open() {
+    if (!load_synthesizer_library()) return false;
+    settings_.reset(make_settings());
+    synth_.reset(new_fluid_synth(settings_.get()));
+    if (!synth_) throw std::bad_alloc();
+    return true;
+}
 
 bool Synthesizer::load_sound_font(const std::string& path) {
     constexpr int kGiveChannelsTheirPrograms = 1;
@@ -152,7 +157,7 @@ void Synthesizer::render(float* left, float* right, int frames) {
     if (flow_ != SoundFlow::frozen) {
         fluid_synth_write_float(synth_.get(), frames, left, 0, 1, right, 0, 1);
     }
-    if (flow_ != SoundFlow::heard) {
+    if (flow_ != SoundFlow::heard || !synth_) {
         std::fill_n(left, frames, 0.0F);
         std::fill_n(right, frames, 0.0F);
     }

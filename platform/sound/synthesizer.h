@@ -4,8 +4,8 @@
 // a reset message comes. Every sudden change (a reset, a seek, a cut, a freeze) is bridged by
 // a short cross-fade. General MIDI, GS and XG resets are obeyed, as are master volume messages.
 //
-// Threads: the sound font is loaded on any one thread; after that everything happens on the
-// thread that renders. Nothing of ours but the loading allocates, and nothing takes a lock; the
+// Threads: open() and load_sound_font() come on any one thread; after that everything happens on
+// the thread that renders. Nothing of ours but the loading allocates, and nothing takes a lock; the
 // library itself handles a few small blocks of memory, and a table for a MIDI tuning message.
 #pragma once
 
@@ -28,13 +28,17 @@ enum class SoundFlow {
 
 class Synthesizer final : public MidiSink {
   public:
-    Synthesizer();
+    Synthesizer() = default;
     ~Synthesizer() override;
     Synthesizer(const Synthesizer&) = delete;
     Synthesizer& operator=(const Synthesizer&) = delete;
 
+    // Sets the synthesizer up, with the library behind it; false when that is not installed. Unless
+    // it is open all is silent. Once.
+    bool open();
+
     // False when that is no sound font, or not an ordinary file. Takes up to seconds. Without any
-    // font all is silent.
+    // font all is silent. Only when it is open.
     bool load_sound_font(const std::string& path);
 
     void note_off(int channel, int key) override;

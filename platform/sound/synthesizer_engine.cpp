@@ -13,7 +13,7 @@ constexpr Milliseconds kProblemCheckInterval = 250;
 SynthesizerEngine::SynthesizerEngine(Scheduler& scheduler, SynthesizerOptions options,
                                      std::unique_ptr<AudioOutput> output)
     : problem_check_(scheduler, kProblemCheckInterval),
-      loader_([this, options = std::move(options)] { load_sound_font(options); }),
+      loader_([this, options = std::move(options)] { load(options); }),
       output_(std::move(output)) {
     output_->connect(renderer_);
     problem_check_.on_tick = [this] { look_for_problems(); };
@@ -24,23 +24,31 @@ SynthesizerEngine::~SynthesizerEngine() {
     loader_.join();
 }
 
-void SynthesizerEngine::load_sound_font(const SynthesizerOptions& options) {
+void SynthesizerEngine::load(const SynthesizerOptions& options) {
+    loading_problem_ = synthesizer_.open()
+                           ? load_sound_font(options)
+                           : "The package libfluidsynth3 is not installed, so MIDI songs play "
+                             "silently. Please install it, and start again.";
+    renderer_.set_ready();
+}
+
+// What to tell the user when that fails.
+std::string SynthesizerEngine::load_sound_font(const SynthesizerOptions& options) {
     const bool chosen = !options.sound_font.empty();
     const std::vector<std::string> fonts =
         chosen ? std::vector{options.sound_font} : sound_fonts_in(options.usual_places);
     const bool loaded = std::any_of(fonts.begin(), fonts.end(), [this](const std::string& font) {
         return synthesizer_.load_sound_font(font);
     });
-    if (!loaded) {
-        sound_font_problem_ =
-            chosen ? "The sound font \"" + options.sound_font +
-                         "\" could not be loaded, so MIDI songs play silently."
-                   : "No sound font was found, so MIDI songs play silently. Please install the "
-                     "package fluid-soundfont-gm or timgm6mb-soundfont, or put a sound font "
-                     "(.sf2 or .sf3) into the folder soundfonts in your data folder, usually "
-                     "~/.local/share/soundfonts, and start again.";
+    if (loaded) return {};
+    if (chosen) {
+        return "The sound font \"" + options.sound_font +
+               "\" could not be loaded, so MIDI songs play silently.";
     }
-    renderer_.set_ready();
+    return "No sound font was found, so MIDI songs play silently. Please install the package "
+           "fluid-soundfont-gm or timgm6mb-soundfont, or put a sound font (.sf2 or .sf3) into the "
+           "folder soundfonts in your data folder, usually ~/.local/share/soundfonts, and start "
+           "again.";
 }
 
 std::uint64_t SynthesizerEngine::submit(Player& player, PlayWish wish,
@@ -80,9 +88,9 @@ void SynthesizerEngine::look_for_problems() {
     if (!ready() || !output_->settled()) return;
     if (renderer_.idle()) problem_check_.set_enabled(false);  // until the next song
     const auto tell = on_problem;  // a copy: telling may take long and end the program
-    const std::string sound_font_problem = std::exchange(sound_font_problem_, {});
+    const std::string loading_problem = std::exchange(loading_problem_, {});
     const auto output_problem = output_->take_problem();
-    if (tell && !sound_font_problem.empty()) tell(sound_font_problem);
+    if (tell && !loading_problem.empty()) tell(loading_problem);
     if (tell && output_problem) tell(*output_problem);
 }
 

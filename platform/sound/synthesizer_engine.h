@@ -5,8 +5,8 @@
 // it, and the one that had it stops in place.
 //
 // Threads: all calls come on the user-interface thread. Beside that there are a thread that loads
-// the sound font and ends, the thread of the audio output that watches over the devices, and
-// the thread of the open device, which renders.
+// synthesizer and sound font and ends, the thread of the audio output that watches over the
+// devices, and the thread of the open device, which renders.
 #pragma once
 
 #include "core/scheduler.h"
@@ -41,22 +41,22 @@ class SynthesizerEngine {
         virtual void synthesizer_taken() = 0;  // another is about to have it
     };
 
-    // Begins to load the sound font. The scheduler must outlive the engine.
+    // Begins to load the synthesizer and its sound font. The scheduler must outlive the engine.
     SynthesizerEngine(Scheduler& scheduler, SynthesizerOptions options,
                       std::unique_ptr<AudioOutput> output);
     ~SynthesizerEngine();  // all players are gone by then
     SynthesizerEngine(const SynthesizerEngine&) = delete;
     SynthesizerEngine& operator=(const SynthesizerEngine&) = delete;
 
-    // Called from the event loop with a whole sentence for the user: that there is no sound font
-    // and what to install, or that there is no sound device. Each comes at most once. To be set
-    // before the event loop runs.
+    // Called from the event loop with a whole sentence for the user: that there is no synthesizer
+    // or sound font and what to install, or that there is no sound device. Each comes at most once.
+    // To be set before the event loop runs.
     std::function<void(const std::string&)> on_problem;
 
     // The volume of everything, amplitudes from 0 to 1; full at first. It glides there.
     void set_volume(float left, float right) { renderer_.set_volume(left, right); }
 
-    // The sound font is loaded, or it is known that there is none.
+    // All is loaded, or it is known that there is nothing to load.
     bool ready() const { return renderer_.ready(); }
 
     // For players. Serial numbers for wishes: each is larger than all before.
@@ -77,7 +77,8 @@ class SynthesizerEngine {
         std::shared_ptr<const MidiSong> song;
     };
 
-    void load_sound_font(const SynthesizerOptions& options);
+    void load(const SynthesizerOptions& options);
+    std::string load_sound_font(const SynthesizerOptions& options);
     void drop_unused_songs();
     void look_for_problems();
 
@@ -87,7 +88,7 @@ class SynthesizerEngine {
     Player* player_ = nullptr;
     std::uint64_t serial_ = 0;
 
-    std::string sound_font_problem_;  // written before the renderer is ready, read after
+    std::string loading_problem_;  // written before the renderer is ready, read after
     RepeatingTimer problem_check_;
     std::thread loader_;
     std::unique_ptr<AudioOutput> output_;  // last: it stops rendering before the rest goes

@@ -2,6 +2,7 @@
 // by the test, or by a clock where it is about threads. No sound font is needed here.
 #include "platform/desktop/steady_clock.h"
 #include "platform/sound/sequencer_backend.h"
+#include "pumped_output.h"
 #include "smf_builder.h"
 #include "tests/support/virtual_time.h"
 
@@ -23,27 +24,6 @@ namespace {
 
 using namespace test;
 namespace fs = std::filesystem;
-
-// Where the sound goes when a test pumps it.
-class PumpedOutput final : public AudioOutput {
-  public:
-    AudioSource* source = nullptr;
-    int woken = 0;
-    std::optional<std::string> problem;
-
-    void connect(AudioSource& connected) override { source = &connected; }
-    void wake() override { ++woken; }
-    bool settled() const override { return true; }
-    std::optional<std::string> take_problem() override { return std::exchange(problem, {}); }
-
-    void pump(FrameCount frames) {
-        float left[500];
-        float right[500];
-        for (; frames > 0; frames -= 500) {
-            source->render(left, right, static_cast<int>(std::min<FrameCount>(frames, 500)));
-        }
-    }
-};
 
 // A folder of songs, gone at the end.
 class Folder {

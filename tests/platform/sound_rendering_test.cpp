@@ -57,6 +57,7 @@ class RenderingTest : public testing::Test {
     void SetUp() override {
         const auto fonts = sound_fonts_in(usual_sound_font_places());
         if (fonts.empty()) GTEST_SKIP() << "this machine has no sound font";
+        ASSERT_TRUE(synthesizer_.open());
         ASSERT_TRUE(synthesizer_.load_sound_font(fonts.front()));
         renderer_.set_ready();
     }
@@ -133,7 +134,6 @@ class RenderingTest : public testing::Test {
         add("bank", bank_of(channel));
         add("program", program_of(channel));
         add("sounds as bank", fluid_preset_get_banknum(preset));
-        add("program", fluid_preset_get_num(preset));
         return all;
     }
     std::vector<std::string> told_to_all() {

@@ -44,6 +44,7 @@ class ProgramWorld : public World, private ControlObserver {
     }
     Started load_without_settings(const std::string& command_line = {}) {
         program.ResetFilePresent = false;
+        if (give_way(hand_over, command_line)) return Started::ended;
         return start_up.Form_Load(command_line);
     }
 

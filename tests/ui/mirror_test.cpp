@@ -21,6 +21,7 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -249,6 +250,16 @@ TEST_F(MirrorTest, EnterAndEscapePressTheAnswersUnlessAKeyHasTheFocus) {
     QTest::keyClick(widget(form.line), Qt::Key_Escape);
     QTest::keyClick(widget(form.inner), Qt::Key_Return);
     EXPECT_EQ(taken(), (Log{"ok", "inner", "inner"}));
+}
+
+TEST_F(MirrorTest, AltAndTheMarkedLetterPressAKeyThatShowsNoMark) {
+    form.inner.set_caption("&Inner && outer");
+    QTest::keyClick(widget(form.line), 'i', Qt::AltModifier);
+    EXPECT_EQ(taken(), Log{"inner"});
+    const auto names = window->findChildren<QAbstractButton*>();
+    EXPECT_TRUE(std::any_of(names.begin(), names.end(), [](const QAbstractButton* key) {
+        return key->accessibleName() == "Inner & outer";
+    }));
 }
 
 TEST_F(MirrorTest, ScreenReadersFindEachControlByKindAndNameAndCanPressIt) {

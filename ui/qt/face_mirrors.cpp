@@ -175,6 +175,9 @@ void PictureMirror::paint(QPainter& painter, const paint::Scale& scale) const {
         case ImageList::note_pad:
             paint::note_pad(painter, scale, box());
             break;
+        case ImageList::light_bulb:
+            paint::light_bulb(painter, scale, box());
+            break;
     }
     if (is_stop()) {
         paint::focus_ring(painter, scale, clock_box(), paint::glass_radius,

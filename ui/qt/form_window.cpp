@@ -4,7 +4,6 @@
 #include "core/ports/window_host.h"
 #include "ui/qt/key_codes.h"
 #include "ui/qt/make_mirror.h"
-#include "ui/qt/pictures.h"
 #include "ui/qt/popup_look.h"
 #include "ui/qt/shown_text.h"
 #include "ui/qt/taskbar_button.h"
@@ -77,7 +76,6 @@ FormWindow::FormWindow(Form& form, double factor)
       tooltip_look_(new QWidget(this)),
       extended_style_(kAppWindowStyle) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setWindowIcon(pictures::application_icon());
     tooltip_look_->setStyleSheet(popup_look::tooltip(factor));
     tooltip_look_->hide();
     moved_.setSingleShot(true);

@@ -27,6 +27,15 @@ paint::Pointer pointer_at(const QAbstractButton& key) {
     return key.underMouse() ? paint::Pointer::Over : paint::Pointer::Away;
 }
 
+// "&Next" is shown as "Next", and Alt+N presses it; "&&" stands for the sign itself.
+QString without_mnemonic(const std::string& caption) {
+    QString text = shown(caption);
+    for (qsizetype at = text.indexOf(u'&'); at >= 0; at = text.indexOf(u'&', at + 1)) {
+        text.remove(at, 1);
+    }
+    return text;
+}
+
 bool is_enter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
@@ -46,6 +55,11 @@ bool ButtonMirror::key_pressed(QKeyEvent& event) {
     return true;
 }
 
+void ButtonMirror::show_name() {
+    key_->setAccessibleName(without_mnemonic(button_.accessible_name()));
+    key_->setShortcut(QKeySequence::mnemonic(shown(button_.caption())));
+}
+
 void ButtonMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     paint::ControlState state = look();
     state.pointer = pointer_at(*key_);
@@ -56,7 +70,7 @@ void ButtonMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     } else if (button_.style() == Style::reset) {
         paint::glyph_button(painter, scale, box(), state, paint::Glyph::Reset);
     } else {
-        paint::button(painter, scale, box(), state, shown(button_.caption()));
+        paint::button(painter, scale, box(), state, without_mnemonic(button_.caption()));
     }
 }
 

@@ -26,6 +26,7 @@ class ButtonMirror final : public Mirror {
 
   private:
     bool key_pressed(QKeyEvent& event) override;
+    void show_name() override;
 
     Button& button_;
     Key* key_;

@@ -4,6 +4,8 @@
 #include "ui/qt/paint/type.h"
 
 #include <QMenu>
+#include <QPalette>
+#include <QToolTip>
 #include <memory>
 #include <utility>
 
@@ -39,11 +41,20 @@ QString tooltip(double factor) {
                      factor);
 }
 
+void dress_tooltips(double factor) {
+    QPalette colors = QToolTip::palette();
+    colors.setColor(QPalette::ToolTipBase, palette::popup);
+    colors.setColor(QPalette::ToolTipText, palette::engraving);
+    colors.setColor(QPalette::Window, palette::popup_edge);
+    QToolTip::setPalette(colors);
+    QToolTip::setFont(paint::font(paint::Role::Caption, paint::Scale{factor}));
+}
+
 QString menu(double factor) {
     return filled_in(
         QStringLiteral("QMenu { background: $ground; color: $text; border: (1) solid $edge;"
                        " font: 500 (11) \"$family\"; }"
-                       "QMenu::item { padding: (4) (22); }"
+                       "QMenu::item { padding: (3) (22); }"
                        "QMenu::item:selected { background: $selection; color: $lit; }"
                        "QMenu::item:disabled { background: transparent; color: $quiet; }"
                        "QMenu::item:default { font-weight: 600; }"

@@ -10,6 +10,10 @@ namespace zephyne::popup_look {
 
 // factor: logical pixels per px at 100 %.
 QString tooltip(double factor);
+
+// Gives our colours and type to the tooltips of what has no style sheet: the tray icon.
+void dress_tooltips(double factor);
+
 QString menu(double factor);
 
 // Shows a menu (null: does nothing) in our look until the user has chosen, and deletes it.
