@@ -13,8 +13,8 @@ const std::string kHeader = "Zephyne Playlist\r\n";
 TEST(OpeningAPlaylist, SortsItsEntriesShowsTheirNumberAndPlaysByTheOrder) {
     PlaylistWorld world;
     world.load(kHeader + "b.mid|/music\r\na.mid.mid|/music/\r\na.mid|/other/\r\na.mid|/music/\r\n");
-    EXPECT_EQ(world.lines(), (Log{"a.mid|/music/", "a.mid|/other/", "a.mid.mid|/music/",
-                                  "b.mid|/music"}))
+    EXPECT_EQ(world.lines(),
+              (Log{"a.mid|/music/", "a.mid|/other/", "a.mid.mid|/music/", "b.mid|/music"}))
         << "no duplicate is removed";
     world.expect_in_step(world.form.File1);
     EXPECT_EQ(world.form.Label2.caption(), "4");
@@ -75,8 +75,9 @@ TEST(APlaylistFromTheOldPlatform, IsFoundBelowTheFolderThatTheUserPointsAt) {
     PlaylistWorld world;
     world.files.add_file("/old/Midi/Rags/maple.mid");
     world.files.add_file("/more/extra/e.mid");
-    const std::string list = kHeader + "MAPLE.MID|C:\\MIDI\\RAGS\\\r\na.mid|c:\\gone\\\r\n"
-                                       "a.mid|/music/\r\ne.mid|D:\\Extra";
+    const std::string list = kHeader +
+                             "MAPLE.MID|C:\\MIDI\\RAGS\\\r\na.mid|c:\\gone\\\r\n"
+                             "a.mid|/music/\r\ne.mid|D:\\Extra";
     world.files.add_file("/music/list.lst", list);
     const auto load = [&](std::deque<std::string> answers) {
         answers.push_front("/music/list.lst");
@@ -114,9 +115,7 @@ TEST(ANewPlaylist, LeavesThePlayerWholeWheneverItComes) {
     };
     const std::vector<Act> intruders = {
         [](PlaylistWorld& world) { world.load(kHeader + "x.mid|/other/"); },
-        [](PlaylistWorld& world) {
-            world.edit([](Form9& form) { form.Command7.click(); });
-        },
+        [](PlaylistWorld& world) { world.edit([](Form9& form) { form.Command7.click(); }); },
         [](PlaylistWorld& world) { world.load(kHeader); },
     };
     for (const std::int32_t mode : {PlayMode::Alpha, PlayMode::Manual}) {
