@@ -9,6 +9,8 @@
 #include "platform/desktop/desktop_beeper.h"
 #include "platform/desktop/desktop_clipboard.h"
 #include "platform/desktop/desktop_file_manager.h"
+#include "platform/desktop/desktop_pages.h"
+#include "platform/desktop/libraries_in_use.h"
 #include "platform/desktop/local_hand_over.h"
 #include "platform/desktop/mersenne_random.h"
 #include "platform/desktop/program_start.h"
@@ -22,14 +24,18 @@
 #include "platform/sound/synthesizer_engine.h"
 #include "platform/sound/synthesizer_volume.h"
 #include "platform/video/mpv_backend.h"
+#include "playlists/drive_search_window.h"
 #include "playlists/open_playlist.h"
 #include "playlists/playlist_editor.h"
 #include "playlists/playlist_file.h"
+#include "shell/about_box.h"
+#include "shell/help.h"
 #include "shell/input_box.h"
 #include "shell/message_box.h"
 #include "shell/profile_strings.h"
 #include "shell/quick_tips.h"
 #include "shell/tray_menu.h"
+#include "shell/web_links.h"
 #include "songdata/file_commands.h"
 #include "songdata/information_window.h"
 #include "songdata/move_file.h"
@@ -38,7 +44,10 @@
 #include "songdata/song_summary.h"
 #include "songdata/view_presets.h"
 #include "songdata/volume_control.h"
+#include "ui/main_window_commands.h"
 #include "ui/main_window_layout.h"
+#include "ui/options_window.h"
+#include "ui/qt/help_window.h"
 #include "ui/qt/pictures.h"
 #include "ui/qt/pixels.h"
 #include "ui/qt/popup_look.h"
@@ -108,9 +117,19 @@ class Zephyne {
           open_playlist_(stage_, engine_.order, playlist_file_),
           playlist_editor_(stage_, engine_, scheduler, windows_, playlist_file_,
                            {audition_sequencer_, audition_wave_, audition_video_}),
+          drive_search_(stage_, scheduler, windows_),
+          about_(program_, windows_, {ZEPHYNE_VERSION, libraries_in_use}),
+          help_(program_, files_, help_viewer_),
+          web_links_(program_, files_, pages_),
           layout_(stage_, windows_),
+          options_(stage_, engine_, layout_, windows_, options_services_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
-          shut_down_(stage_, engine_) {
+          shut_down_(stage_, engine_),
+          commands_(stage_, layout_,
+                    {.show_options = [this] { options_.show(); },
+                     .show_help = [this] { help_.show_contents(); },
+                     .show_web_links = [this] { web_links_.show(); },
+                     .renamefile = [this] { file_commands_.renamefile(); }}) {
         program_.folders = program_folders(files_, start_surroundings());
         midi_volume_.keep_in(joined(program_.folders.own, "midi-volume", files_.path_style()));
         windows_.create(form_);
@@ -126,8 +145,26 @@ class Zephyne {
         };
         start_up_.choose_volume_device = [this] { volume_.start(); };
         start_up_.show_presets = [this] { presets_.show_tooltips(); };
+        playlist_editor_.show_drive_search = [this](EditedPlaylist& playlist) {
+            drive_search_.show(playlist);
+        };
         shut_down_.close_notes = [this] { notes_.unload(); };
         shut_down_.unload_tray = [this] { tray_menu_.unload(); };
+        tray_menu_.show_about = [this] { about_.show(); };
+        quick_tips_.show_help = [this] { help_.show_contents(); };
+        options_services_.load_tray = [this] { tray_menu_.load(); };
+        options_services_.unload_tray = [this] { tray_menu_.unload(); };
+        options_services_.tray_loaded = [this] { return tray_menu_.loaded(); };
+        options_services_.unload_notes = [this] { notes_.unload(); };
+        options_services_.unload_quick_tip = [this] { quick_tips_.unload(); };
+        options_services_.tips_at_start = [this] { return quick_tips_.tips_at_start(); };
+        options_services_.set_tips_at_start = [this](bool wanted) {
+            quick_tips_.set_tips_at_start(wanted);
+        };
+        options_services_.show_about = [this] { about_.show(); };
+        options_services_.ask_whats_this = [this] { help_.ask_whats_this(); };
+        options_services_.help_text = [this](std::string_view topic) { return help_.topic(topic); };
+        shut_down_.close_help = [this] { help_.close(); };
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
 
@@ -176,9 +213,18 @@ class Zephyne {
     PlaylistFile playlist_file_;
     OpenPlaylist open_playlist_;
     PlaylistEditor playlist_editor_;
+    DriveSearchWindow drive_search_;
+    AboutBox about_;
+    QtHelpViewer help_viewer_{user_scale_factor()};
+    Help help_;
+    DesktopPages pages_;
+    WebLinks web_links_;
     MainWindowLayout layout_;
+    OptionsServices options_services_;
+    OptionsWindow options_;
     StartUp start_up_;
     ShutDown shut_down_;
+    MainWindowCommands commands_;
 };
 
 }  // namespace

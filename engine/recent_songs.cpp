@@ -46,4 +46,16 @@ void record_finished_song(Stage& stage) {
     stage.program.SkipRecentOnce = false;
 }
 
+void ForgetRecentSongs(Stage& stage) {
+    stage.program.RecentSongs.fill({});
+    stage.program.RecentCount = 0;
+    if (!stage.shows_tray()) return;
+    stage.tray.sep1.visible = false;
+    for (int number = 1; number <= 5; ++number) {
+        MenuItem& entry = stage.tray.mnuSong(number);
+        entry.caption.clear();
+        entry.visible = false;
+    }
+}
+
 }  // namespace zephyne

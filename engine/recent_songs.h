@@ -15,4 +15,7 @@ void show_recent_songs(Stage& stage);
 // For a song that ends by itself or by "Next": as above, but SkipRecentOnce is used up.
 void record_finished_song(Stage& stage);
 
+// Empties the list and the tray's entries.
+void ForgetRecentSongs(Stage& stage);
+
 }  // namespace zephyne

@@ -305,6 +305,7 @@ TEST_F(MirrorTest, TheCloseBoxAsksTheForm) {
     EXPECT_TRUE(window->isVisible());
     refuse = false;
     window->close();
+    settle();
     EXPECT_FALSE(window->isVisible());
     EXPECT_FALSE(form.loaded());
 }
@@ -352,6 +353,36 @@ class PaintWatch final : public QObject {
         return QObject::eventFilter(target, event);
     }
 };
+
+TEST_F(MirrorTest, AWindowThatIsHiddenAndShownInOneStepNeverLeavesTheScreen) {
+    int hidden = 0;
+    window->on_hidden = [&] { ++hidden; };
+    form.set_visible(false);
+    form.set_visible(true);
+    settle();
+    EXPECT_EQ(hidden, 0);
+    window->set_extended_style(0);
+    form.set_visible(false);
+    form.set_visible(true);
+    EXPECT_EQ(hidden, 1) << "its taskbar button goes";
+    form.set_visible(false);
+    settle();
+    EXPECT_EQ(hidden, 2);
+    EXPECT_FALSE(window->isVisible());
+    window->on_hidden = nullptr;
+}
+
+TEST_F(MirrorTest, AWindowIsNotResizedWhileTheWindowManagerTakesItUp) {
+    form.set_visible(false);
+    settle();
+    form.set_visible(true);
+    const QSize before = window->size();
+    Place place = form.place();
+    place.width += 1500;
+    form.set_place(place);
+    EXPECT_EQ(window->size(), before);
+    QTRY_COMPARE(window->size().width(), before.width() + 100);
+}
 
 TEST_F(MirrorTest, AnAnimationPaintsOnlyItsOwnCorner) {
     PaintWatch watch(*window);

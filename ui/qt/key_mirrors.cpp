@@ -4,6 +4,7 @@
 #include "ui/qt/form_window.h"
 #include "ui/qt/shown_text.h"
 
+#include <QButtonGroup>
 #include <QKeyEvent>
 #include <charconv>
 
@@ -100,6 +101,52 @@ void CheckBoxMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     } else {
         paint::check_box(painter, scale, box(), state, shown(check_box_.caption()));
     }
+}
+
+OptionButtonMirror::OptionButtonMirror(FormWindow& window, OptionButton& option)
+    : Mirror(window, option), option_(option), key_(new Key(&window)) {
+    set_widget(key_);
+    key_->setCheckable(true);
+    // An exclusive button is a radio button to screen readers. A group of its own keeps Qt from
+    // clearing the window's other options, which is the control's affair.
+    key_->setAutoExclusive(true);
+    auto* alone = new QButtonGroup(key_);
+    alone->setExclusive(false);
+    alone->addButton(key_);
+    connect(key_, &QAbstractButton::clicked, this, [this] { option_.click(); });
+    connect(key_, &QAbstractButton::toggled, this, [this](bool checked) {
+        if (checked == option_.selected()) return;
+        if (checked) option_.click();
+        key_->setChecked(option_.selected());
+    });
+}
+
+void OptionButtonMirror::show_property(Property property) {
+    if (property != Property::value) return;
+    key_->setChecked(option_.selected());
+    key_->setFocusPolicy(option_.is_group_stop() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+bool OptionButtonMirror::key_pressed(QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+            option_.step(GroupStep::previous);
+            return true;
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+            option_.step(GroupStep::next);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void OptionButtonMirror::paint(QPainter& painter, const paint::Scale& scale) const {
+    paint::ControlState state = look();
+    state.pointer = pointer_at(*key_);
+    state.latched = option_.selected();
+    paint::option_button(painter, scale, box(), state, shown(option_.caption()));
 }
 
 TransportMirror::TransportMirror(FormWindow& window, Transport& transport)

@@ -1,4 +1,4 @@
-// Style sheets for the windows that Qt itself opens above ours: menus and tooltips.
+// Style sheets for what Qt itself lays out: menus, tooltips, notes, and the help.
 #pragma once
 
 #include <QString>
@@ -15,6 +15,9 @@ QString tooltip(double factor);
 void dress_tooltips(double factor);
 
 QString menu(double factor);
+QString whats_this(double factor);
+QString help_window(double factor);    // keys, ground and scroll bar
+QString help_document(double factor);  // the text itself
 
 // Shows a menu (null: does nothing) in our look until the user has chosen, and deletes it.
 void run_menu(QMenu* menu, double factor, const QPoint& screen_point);
