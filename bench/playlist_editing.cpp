@@ -4,6 +4,12 @@
 //
 // Each act should stay below half a second. "longest_ms" is the longest stretch of it in which the
 // window does not move.
+#include "core/controls/form.h"
+#include "core/controls/list_box.h"
+#include "core/playlist_entry.h"
+#include "playlists/playlist_lists.h"
+#include "playlists/playlist_text.h"
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -11,12 +17,6 @@
 #include <random>
 #include <string>
 #include <vector>
-
-#include "core/controls/form.h"
-#include "core/controls/list_box.h"
-#include "core/playlist_entry.h"
-#include "playlists/playlist_lists.h"
-#include "playlists/playlist_text.h"
 
 namespace {
 

@@ -1,15 +1,16 @@
 // Playlists of any bytes, in both path styles: what was read is written and read again the same,
 // and the two lists made of it are in step after everything that the editor does to them.
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-#include <string_view>
+#include "playlists/playlist_text.h"
 
 #include "core/controls/form.h"
 #include "core/controls/list_box.h"
 #include "core/playlist_entry.h"
 #include "playlists/playlist_lists.h"
-#include "playlists/playlist_text.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
 
 using namespace zephyne;
 

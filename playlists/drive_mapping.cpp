@@ -41,8 +41,8 @@ void DriveMapping::find_all(FolderMap& folders) const {
 void DriveMapping::ask(const std::string& drives) {
     std::string named;
     for (const char drive : drives) named += (named.empty() ? "" : ", ") + std::string{drive, ':'};
-    const auto place = dialogs_.choose_folder(drives.size() == 1
-                                                  ? "Where is drive " + named + " of this playlist?"
+    const auto place =
+        dialogs_.choose_folder(drives.size() == 1 ? "Where is drive " + named + " of this playlist?"
                                                   : "Where are drives " + named + "?");
     if (!place) return;
     for (const char drive : drives) places_[drive].push_back(*place);

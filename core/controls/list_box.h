@@ -85,7 +85,8 @@ class ListBox final : public Control {
     // Ctrl held, and a simple list, where only the keyboard moves.
     void move_to(std::size_t index, ClickWith key = ClickWith::nothing);
 
-    // The user clicked a row twice, or pressed Enter on it. In a simple list that is one more click.
+    // The user clicked a row twice, or pressed Enter on it. In a simple list that is one more
+    // click.
     void double_click(std::size_t index);
     std::function<void()> on_double_click;
 

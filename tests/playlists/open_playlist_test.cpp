@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <vector>
+
 namespace zephyne::test {
 namespace {
 
@@ -10,8 +13,8 @@ const std::string kHeader = "Zephyne Playlist\r\n";
 TEST(OpeningAPlaylist, SortsItsEntriesShowsTheirNumberAndPlaysByTheOrder) {
     PlaylistWorld world;
     world.load(kHeader + "b.mid|/music\r\na.mid.mid|/music/\r\na.mid|/other/\r\na.mid|/music/\r\n");
-    EXPECT_EQ(world.lines(), (Log{"a.mid|/music/", "a.mid|/other/", "a.mid.mid|/music/",
-                                  "b.mid|/music"}))
+    EXPECT_EQ(world.lines(),
+              (Log{"a.mid|/music/", "a.mid|/other/", "a.mid.mid|/music/", "b.mid|/music"}))
         << "no duplicate is removed";
     world.expect_in_step(world.form.File1);
     EXPECT_EQ(world.form.Label2.caption(), "4");
@@ -72,8 +75,9 @@ TEST(APlaylistFromTheOldPlatform, IsFoundBelowTheFolderThatTheUserPointsAt) {
     PlaylistWorld world;
     world.files.add_file("/old/Midi/Rags/maple.mid");
     world.files.add_file("/more/extra/e.mid");
-    const std::string list = kHeader + "MAPLE.MID|C:\\MIDI\\RAGS\\\r\na.mid|c:\\gone\\\r\n"
-                                       "a.mid|/music/\r\ne.mid|D:\\Extra";
+    const std::string list = kHeader +
+                             "MAPLE.MID|C:\\MIDI\\RAGS\\\r\na.mid|c:\\gone\\\r\n"
+                             "a.mid|/music/\r\ne.mid|D:\\Extra";
     world.files.add_file("/music/list.lst", list);
     const auto load = [&](std::deque<std::string> answers) {
         answers.push_front("/music/list.lst");
@@ -98,6 +102,46 @@ TEST(APlaylistFromTheOldPlatform, IsFoundBelowTheFolderThatTheUserPointsAt) {
     EXPECT_EQ(world.lines(), (Log{"a.mid|/music/", "a.mid|c:\\gone\\", "e.mid|/more/extra/",
                                   "MAPLE.MID|/old/Midi/Rags/"}));
     EXPECT_EQ(load({}), Log{"dialog: open .lst"}) << "both places are known by now";
+}
+
+// The player lets events run in the middle of its steps, and the two keys may be pressed then.
+TEST(ANewPlaylist, LeavesThePlayerWholeWheneverItComes) {
+    using Act = std::function<void(PlaylistWorld&)>;
+    const std::vector<Act> acts = {
+        [](PlaylistWorld& world) { world.click("b.mid"); },
+        [](PlaylistWorld& world) { world.form.Command9.click(); },
+        [](PlaylistWorld& world) { world.engine->order.RefillAndPlayNext(); },
+        [](PlaylistWorld& world) { world.form.MMControl1.press(TransportKey::stop); },
+    };
+    const std::vector<Act> intruders = {
+        [](PlaylistWorld& world) { world.load(kHeader + "x.mid|/other/"); },
+        [](PlaylistWorld& world) { world.edit([](Form9& form) { form.Command7.click(); }); },
+        [](PlaylistWorld& world) { world.load(kHeader); },
+    };
+    for (const std::int32_t mode : {PlayMode::Alpha, PlayMode::Manual}) {
+        for (std::size_t act = 0; act < acts.size(); ++act) {
+            for (std::size_t intruder = 0; intruder < intruders.size(); ++intruder) {
+                for (int at = 1; at <= 8; ++at) {
+                    SCOPED_TRACE("act " + std::to_string(act) + ", intruder " +
+                                 std::to_string(intruder) + " at pump " + std::to_string(at));
+                    PlaylistWorld world;
+                    world.settings().AutoReset = 1;
+                    world.load(kHeader + "a.mid|/music/\nb.mid|/music/\nc.rmi|/music/\n");
+                    world.settings().Mode = mode;
+                    world.click("a.mid");
+                    int pumps = 0;
+                    world.pump.on_pump = [&] {
+                        if (++pumps == at) intruders[intruder](world);
+                    };
+                    acts[act](world);
+                    world.run_for(1000);
+                    world.expect_in_step(world.form.File1);
+                    world.expect_flags_at_rest();
+                    world.expect_title_tells_the_truth();
+                }
+            }
+        }
+    }
 }
 
 class SavingAPlaylist : public testing::Test {

@@ -172,7 +172,8 @@ TEST_F(PlaylistEditorTest, AnUnreadableDriveIsReportedAndTheFolderStays) {
     edit([&](Form9& form) {
         form.Drive1.refresh();
         form.Drive1.choose(1);
-        EXPECT_EQ(world.happened(), Log{"message: Error - Drive May Be Unavailable. [Drive Error]"});
+        EXPECT_EQ(world.happened(),
+                  Log{"message: Error - Drive May Be Unavailable. [Drive Error]"});
         EXPECT_EQ(form.Dir1.path(), "/music");
         EXPECT_EQ(form.Drive1.drive().name, "System");
     });
@@ -210,9 +211,9 @@ TEST_F(PlaylistEditorTest, AuditionsASongOnADeviceOfItsOwn) {
         form.List1.click(0);
         EXPECT_EQ(keys(form), "P--");
         form.MMControl1.press(TransportKey::play);
-        EXPECT_EQ(world.happened(), (Log{"open gm_reset.aut", "play gm_reset.aut",
-                                         "close gm_reset.aut", "audition: open a.mid",
-                                         "audition: play a.mid"}));
+        EXPECT_EQ(world.happened(),
+                  (Log{"open gm_reset.aut", "play gm_reset.aut", "close gm_reset.aut",
+                       "audition: open a.mid", "audition: play a.mid"}));
         EXPECT_EQ(keys(form), "PUS");
         EXPECT_EQ(form.title(), "Edit Playlist");
         EXPECT_EQ(world.form.title(), "Zephyne");

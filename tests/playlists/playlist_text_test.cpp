@@ -55,7 +55,8 @@ TEST(PlaylistText, IsReadWithWhateverLineEndsAndHeaderField) {
 
 TEST(PlaylistText, TakesBytesFromTheOldPlatformForItsCodePage) {
     const std::string bytes =
-        "Zephyne Playlist\r\nCaf\xE9.mid|C:\\Fran\xE7" "ais\\\r\nCaf\xE9.mid|/m/\r\n";
+        "Zephyne Playlist\r\nCaf\xE9.mid|C:\\Fran\xE7"
+        "ais\\\r\nCaf\xE9.mid|/m/\r\n";
     EXPECT_EQ(read_playlist_text(bytes, PathStyle::posix).entry_lines,
               (Log{"Café.mid|C:\\Français\\", "Caf\xE9.mid|/m/"}))
         << "names here are bytes";
@@ -80,8 +81,8 @@ Log texts(const ListBox& list) {
 // Entries of names and folders that are hard on separators, order and encoding.
 TEST(PlaylistText, EveryEntryThatCanBeAddedComesBackAndStaysInStep) {
     std::mt19937 random(1998);
-    const std::vector<std::string> parts = {"a", "A", ".mid", "|", "é", "\xE9", "C:", "\\", " ",
-                                            ",", "\"", "ß", "SS", "\xEF\xBB\xBF", "\n", "/"};
+    const std::vector<std::string> parts = {"a", "A", ".mid", "|", "é",  "\xE9",         "C:", "\\",
+                                            " ", ",", "\"",   "ß", "SS", "\xEF\xBB\xBF", "\n", "/"};
     const auto text = [&](std::size_t kinds) {
         std::string result;
         for (auto count = 1 + random() % 5; count > 0; --count) result += parts[random() % kinds];

@@ -24,7 +24,8 @@ class PlaylistWorld : public World {
         settings().Lowercase = 0;
         settings().AllowWav = 1;
         settings().AutoReset = 0;
-        for (const char* song : {"a.mid", "A.mid", "x.mid"}) files.add_file("/other/" + std::string(song));
+        for (const char* song : {"a.mid", "A.mid", "x.mid"})
+            files.add_file("/other/" + std::string(song));
         windows.on_modal = [this](Form& shown) {
             editor = &dynamic_cast<Form9&>(shown);
             while_open(*editor);
@@ -38,8 +39,8 @@ class PlaylistWorld : public World {
     SimulatedBackend audition_wave{"audition wave: ", clock, scheduler, log};
     PlaylistFile file{stage, dialogs};
     OpenPlaylist opening{stage, engine->order, file};
-    PlaylistEditor playlist_editor{
-        stage, *engine, scheduler, windows, file, {audition, audition_wave, audition_wave}};
+    PlaylistEditor playlist_editor{stage,   *engine, scheduler,
+                                   windows, file,    {audition, audition_wave, audition_wave}};
     Form9* editor = nullptr;
     std::function<void(Form9&)> while_open;
 

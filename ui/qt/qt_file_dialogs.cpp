@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QPalette>
+#include <QScreen>
 #include <QStringList>
 #include <QStyleFactory>
 
@@ -15,6 +16,9 @@ namespace zephyne {
 namespace {
 
 namespace palette = paint::palette;
+
+constexpr QSize kSize(560, 400);
+constexpr double kLargestPart = 0.9;  // of the screen
 
 // Qt wants "Texts (*.txt)", and a pattern for all files that fits names without a point, too.
 QStringList name_filters(const std::string& filter) {
@@ -49,6 +53,16 @@ QPalette dark_palette() {
     return dark;
 }
 
+// What the dialog lies above. Between two dialogs in a row no window is active for a moment.
+QWidget* window_below() {
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible()) return widget;
+    }
+    return nullptr;
+}
+
 void take_choice(QFileDialog& dialog, const FileChoice& choice) {
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilters(name_filters(choice.filter));
@@ -63,7 +77,8 @@ std::optional<std::string> QtFileDialogs::run(QFileDialog& dialog) {
     dialog.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     dialog.setPalette(dark_palette());
     dialog.setFont(paint::font(paint::Role::Row, paint::Scale{factor_}));
-    dialog.resize(dialog.sizeHint() * factor_);
+    dialog.setViewMode(QFileDialog::List);
+    dialog.resize((kSize * factor_).boundedTo(dialog.screen()->availableSize() * kLargestPart));
     if (!folder_.isEmpty()) dialog.setDirectory(folder_);
 
     const bool accepted = dialog.exec() == QDialog::Accepted;
@@ -74,21 +89,21 @@ std::optional<std::string> QtFileDialogs::run(QFileDialog& dialog) {
 }
 
 std::optional<std::string> QtFileDialogs::open_file(const FileChoice& choice) {
-    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Open"));
+    QFileDialog dialog(window_below(), QStringLiteral("Open"));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     take_choice(dialog, choice);
     return run(dialog);
 }
 
 std::optional<std::string> QtFileDialogs::save_file(const FileChoice& choice) {
-    QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Save As"));
+    QFileDialog dialog(window_below(), QStringLiteral("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     take_choice(dialog, choice);
     return run(dialog);
 }
 
 std::optional<std::string> QtFileDialogs::choose_folder(const std::string& title) {
-    QFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(title));
+    QFileDialog dialog(window_below(), QString::fromStdString(title));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
