@@ -1,14 +1,4 @@
 // Builds the ports, builds the program on them, and runs it.
-#include <QApplication>
-#include <QIcon>
-#include <QSessionManager>
-#include <QTimer>
-
-#include <clocale>
-#include <cstdio>
-#include <cstdlib>
-#include <string>
-
 #include "core/program.h"
 #include "core/scheduler.h"
 #include "core/sheets/form1.h"
@@ -17,6 +7,7 @@
 #include "engine/media_device.h"
 #include "engine/stage.h"
 #include "platform/desktop/desktop_beeper.h"
+#include "platform/desktop/desktop_file_manager.h"
 #include "platform/desktop/local_hand_over.h"
 #include "platform/desktop/mersenne_random.h"
 #include "platform/desktop/program_start.h"
@@ -27,16 +18,37 @@
 #include "platform/sound/audio_output.h"
 #include "platform/sound/sequencer_backend.h"
 #include "platform/sound/synthesizer_engine.h"
+#include "platform/sound/synthesizer_volume.h"
 #include "platform/video/mpv_backend.h"
+#include "playlists/open_playlist.h"
+#include "playlists/playlist_editor.h"
+#include "playlists/playlist_file.h"
+#include "shell/input_box.h"
 #include "shell/message_box.h"
+#include "songdata/file_commands.h"
 #include "songdata/information_window.h"
+#include "songdata/move_file.h"
+#include "songdata/presets.h"
+#include "songdata/song_notes.h"
 #include "songdata/song_summary.h"
+#include "songdata/view_presets.h"
+#include "songdata/volume_control.h"
 #include "ui/main_window_layout.h"
 #include "ui/qt/pictures.h"
 #include "ui/qt/pixels.h"
+#include "ui/qt/qt_file_dialogs.h"
 #include "ui/qt/qt_window_host.h"
 #include "ui/shut_down.h"
 #include "ui/start_up.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QSessionManager>
+#include <QTimer>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
 
 namespace {
 
@@ -58,27 +70,46 @@ std::string environment(const char* name) {
 class Zephyne {
   public:
     Zephyne(PosixFileSystem& files, Scheduler& scheduler, LocalHandOver& hand_over)
-        : files_(files), form_(files_, scheduler), pump_(scheduler),
+        : files_(files),
+          form_(files_, scheduler),
+          pump_(scheduler),
           messages_(program_, scheduler, windows_, beeper_),
           synthesizer_(scheduler, {.sound_font = environment("ZEPHYNE_SOUNDFONT")},
                        make_audio_output(environment("ZEPHYNE_AUDIO"))),
+          midi_volume_(synthesizer_, scheduler, files_),
           sequencer_(scheduler, synthesizer_),
           wave_(scheduler, environment("ZEPHYNE_AUDIO")),
           video_(scheduler, environment("ZEPHYNE_AUDIO")),
           device_(scheduler, files_, form_.MMControl1, {sequencer_, wave_, video_}),
-          stage_{program_, form_,     tray_,   device_, files_,
-                 pump_,    messages_, beeper_, random_},
+          stage_{program_, form_, tray_, device_, files_, pump_, messages_, beeper_, random_},
           engine_(stage_),
           summary_(stage_),
           information_(stage_, windows_),
+          notes_(stage_, windows_),
+          volume_(stage_, midi_volume_),
+          file_commands_(stage_, engine_, questions_, file_manager_),
+          move_file_(stage_, engine_, windows_),
+          presets_(stage_, engine_),
+          view_presets_(stage_, windows_),
+          audition_sequencer_(scheduler, synthesizer_),
+          audition_wave_(scheduler, environment("ZEPHYNE_AUDIO")),
+          audition_video_(scheduler, environment("ZEPHYNE_AUDIO")),
+          playlist_file_(stage_, file_dialogs_),
+          open_playlist_(stage_, engine_.order, playlist_file_),
+          playlist_editor_(stage_, engine_, scheduler, windows_, playlist_file_,
+                           {audition_sequencer_, audition_wave_, audition_video_}),
           layout_(stage_, windows_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
           shut_down_(stage_, engine_) {
         program_.folders = program_folders(files_, start_surroundings());
+        midi_volume_.keep_in(joined(program_.folders.own, "midi-volume", files_.path_style()));
         windows_.create(form_);
         synthesizer_.on_problem = [this](const std::string& sentence) {
             messages_.ShowDlgMessage(sentence, 0, "Zephyne");
         };
+        start_up_.choose_volume_device = [this] { volume_.start(); };
+        start_up_.show_presets = [this] { presets_.show_tooltips(); };
+        shut_down_.close_notes = [this] { notes_.unload(); };
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
 
@@ -93,10 +124,14 @@ class Zephyne {
     TrayForm tray_;
     QtEventPump pump_;
     QtWindowHost windows_{user_scale_factor()};
+    QtFileDialogs file_dialogs_{user_scale_factor()};
     DesktopBeeper beeper_;
     MersenneRandom random_;
     MessageBox messages_;
+    InputBox questions_{program_, windows_};
+    DesktopFileManager file_manager_;
     SynthesizerEngine synthesizer_;
+    SynthesizerVolume midi_volume_;
     SequencerBackend sequencer_;
     MpvBackend wave_;
     MpvBackend video_;
@@ -105,6 +140,18 @@ class Zephyne {
     Engine engine_;
     SongSummary summary_;
     InformationWindow information_;
+    SongNotes notes_;
+    VolumeControl volume_;
+    FileCommands file_commands_;
+    MoveFile move_file_;
+    Presets presets_;
+    ViewPresets view_presets_;
+    SequencerBackend audition_sequencer_;
+    MpvBackend audition_wave_;
+    MpvBackend audition_video_;
+    PlaylistFile playlist_file_;
+    OpenPlaylist open_playlist_;
+    PlaylistEditor playlist_editor_;
     MainWindowLayout layout_;
     StartUp start_up_;
     ShutDown shut_down_;

@@ -62,8 +62,38 @@ void PlayOrder::refill_without(std::size_t song) {
         runs_backwards(stage_.settings()) ? static_cast<std::int32_t>(f.List1.count()) - 1 : 0;
 }
 
-void PlayOrder::show_counters() {
+void PlayOrder::begin_with_new_list() {
+    if (stage_.settings().Mode >= PlayMode::Manual) return;
+    stage_.events.pump();
+    RefillAndPlayNext();
+}
+
+void PlayOrder::drop(const std::string& real_name) {
+    ListBox& remaining = stage_.form.List1;
+    for (std::size_t row = remaining.count(); row-- > 0;) {
+        if (remaining.item(row).real() != real_name) continue;
+        remaining.remove(row);
+        if (static_cast<std::int32_t>(row) < stage_.program.OrderIndex) {
+            --stage_.program.OrderIndex;
+        }
+    }
+}
+
+void PlayOrder::rename(const std::string& real_name, const ListItem& renamed) {
+    ListBox& remaining = stage_.form.List1;
+    const std::size_t before = remaining.count();
+    drop(real_name);
+    if (remaining.count() == before) return;
+    const std::size_t row = remaining.add(renamed);
+    if (static_cast<std::int32_t>(row) < stage_.program.OrderIndex) ++stage_.program.OrderIndex;
+}
+
+void PlayOrder::show_total() {
     stage_.form.Label2.set_caption(count_text(stage_.form.File1));
+}
+
+void PlayOrder::show_counters() {
+    show_total();
     show_remaining();
 }
 

@@ -22,6 +22,10 @@ class PlayOrder final : public NextSong {
     void RefillAndPlayNext() override;
     void go_on() override;
 
+    // The song list has other songs from now on. Unless songs play only by hand, pending events
+    // are handled and a new cycle begins.
+    void begin_with_new_list();
+
     // The first file of the hand-over queue that is still there, if any.
     void play_next_queued() override;
 
@@ -36,7 +40,13 @@ class PlayOrder final : public NextSong {
     void refill();
     void refill_without(std::size_t song);
 
-    // The counters beside "Total:" and "Remaining:".
+    // The file is gone, or has another name now: RemainingList no longer holds it under the old.
+    // Which song comes next does not change by that.
+    void drop(const std::string& real_name);
+    void rename(const std::string& real_name, const ListItem& renamed);
+
+    // The counter beside "Total:", alone or with the one beside "Remaining:".
+    void show_total();
     void show_counters();
 
     // What rebuilds the song list from the folder.

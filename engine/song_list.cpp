@@ -1,8 +1,8 @@
 #include "engine/song_list.h"
 
 #include "core/playlist_entry.h"
-#include "core/text/letter_case.h"
 #include "core/text/numbers.h"
+#include "engine/listed_songs.h"
 #include "engine/recent_songs.h"
 
 #include <string_view>
@@ -12,19 +12,6 @@ namespace zephyne {
 namespace {
 
 constexpr std::size_t kLongList = 10'000;
-
-bool is_listed(SongKind kind, const Settings& settings) {
-    switch (kind) {
-        case SongKind::midi:
-            return true;
-        case SongKind::wave:
-        case SongKind::video:
-            return settings.AllowWav == 1;
-        case SongKind::none:
-            break;
-    }
-    return false;
-}
 
 }  // namespace
 
@@ -44,20 +31,12 @@ void SongList::refreshfiles() {
         const FlagGuard emptying(stage_.program.FindSync);
         f.text2.set_text("");
     }
-    ListRows songs;
     const auto names = stage_.files.list_files(f.Dir1.path());
     // A long list takes a while to read, to name and to sort; the picture goes on in between.
     const bool is_long = names && names->size() > kLongList;
     if (is_long) stage_.events.show();
-    if (names) {
-        const bool lower = stage_.settings().Lowercase == 1;
-        songs.reserve(names->size());
-        for (const std::string& name : *names) {
-            if (!is_listed(song_kind(name), stage_.settings())) continue;
-            const std::string shown = lower ? capitalised(name) : name;
-            songs.append({shown, shown == name ? std::string_view() : name});
-        }
-    }
+    ListRows songs;
+    if (names) songs = listed_songs(*names, stage_.settings());
     if (is_long) stage_.events.show();
     f.File1.set_items(std::move(songs));
     if (is_long) stage_.events.show();

@@ -40,6 +40,7 @@ void StartUp::come_forward() {
 }
 
 Started StartUp::Form_Load(const std::string& command_line) {
+    if (choose_volume_device) choose_volume_device();
     set_up();
     if (!command_line.empty()) return start_queue(command_line);
     start_normally();
@@ -66,6 +67,7 @@ void StartUp::set_up() {
     ReadSettings(program, f, stage_.files);
     const bool first_start = !settings && settings.error().kind == FileErrorKind::not_found;
     if (first_start) show_demo_songs_at_first_start();
+    if (show_presets) show_presets();
     layout_.settips();
     check_reset_file(program, stage_.files);
     engine_.display.ClearTimeDisplay();

@@ -34,7 +34,11 @@ class StartUp {
     // The main window became the active one: its position is the one to remember.
     void Form_Activate();
 
-    // What later rooms add to the normal start: the tray icon, and the tip of the day.
+    // What other rooms do on the way: set the volume sliders, before anything else; name the
+    // presets, once the settings are read; and in the normal start the tray icon and the tip of
+    // the day.
+    std::function<void()> choose_volume_device;
+    std::function<void()> show_presets;
     std::function<void()> load_tray;
     std::function<void()> show_quick_tip;
 

@@ -41,6 +41,7 @@ void ListRows::arrange(const std::vector<std::uint32_t>& order) {
     arranged.reserve(order.size());
     for (const std::uint32_t index : order) arranged.push_back(rows_[index]);
     rows_ = std::move(arranged);
+    if (rows_.empty()) texts_.reset();
 }
 
 }  // namespace zephyne

@@ -68,8 +68,8 @@ class ListRows {
     void erase(std::size_t index);
     void clear();
 
-    // Puts the row with the number order[0] first, order[1] second and so on; `order` holds every
-    // number once.
+    // Puts the row with the number order[0] first, order[1] second and so on. `order` holds no
+    // number twice; the rows that it leaves out are removed.
     void arrange(const std::vector<std::uint32_t>& order);
 
   private:

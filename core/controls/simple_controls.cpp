@@ -75,6 +75,15 @@ void Transport::set_transport_enabled(bool enabled) {
     changed(Property::enabled);
 }
 
+bool Transport::key_enabled(TransportKey key) const {
+    return transport_enabled_ && keys_enabled_[static_cast<std::size_t>(key)];
+}
+
+void Transport::set_key_enabled(TransportKey key, bool enabled) {
+    bool& now = keys_enabled_[static_cast<std::size_t>(key)];
+    if (std::exchange(now, enabled) != enabled) changed(Property::enabled);
+}
+
 void Transport::set_light(TransportLight light) {
     if (light == light_) return;
     light_ = light;
@@ -82,7 +91,7 @@ void Transport::set_light(TransportLight light) {
 }
 
 void Transport::press(TransportKey key) {
-    if (shown() && usable() && transport_enabled_ && on_press) on_press(key);
+    if (shown() && usable() && key_enabled(key) && on_press) on_press(key);
 }
 
 }  // namespace zephyne

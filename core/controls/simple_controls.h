@@ -3,6 +3,7 @@
 
 #include "core/controls/control.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -116,7 +117,7 @@ class Decoration final : public Control {
 };
 
 // The three transport keys of a media device. While the device says that it is switching songs
-// (set_transport_enabled(false)) presses are ignored.
+// (set_transport_enabled(false)) presses are ignored; each key can be switched off by itself, too.
 enum class TransportKey { play, pause, stop };
 enum class TransportLight { none, play, pause };
 
@@ -128,6 +129,10 @@ class Transport final : public Control {
     bool transport_enabled() const { return transport_enabled_; }
     void set_transport_enabled(bool enabled);
 
+    // Whether a press of the key comes through.
+    bool key_enabled(TransportKey key) const;
+    void set_key_enabled(TransportKey key, bool enabled);
+
     TransportLight light() const { return light_; }  // which key is lit
     void set_light(TransportLight light);
 
@@ -136,6 +141,7 @@ class Transport final : public Control {
 
   private:
     bool transport_enabled_ = true;
+    std::array<bool, 3> keys_enabled_ = {true, true, true};
     TransportLight light_ = TransportLight::none;
 };
 

@@ -10,8 +10,14 @@ TextBox::TextBox(Form& form, TextLines lines, TextAccess access, const ControlDe
 void TextBox::set_text(std::string text) {
     if (text == text_) return;
     text_ = std::move(text);
+    selected_text_.clear();
     changed(Property::text);
     if (on_change) on_change();
+}
+
+void TextBox::select_all() {
+    selected_text_ = text_;
+    changed(Property::selection);
 }
 
 void TextBox::type(std::string text) {

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace zephyne {
 
@@ -23,8 +24,16 @@ class TextBox final : public Control {
     void set_text(std::string text);  // from code; raises on_change when it differs
     std::function<void()> on_change;
 
-    // The user's acts. type() gives the whole text as it is now.
+    // What the user has marked; "" when nothing is.
+    const std::string& selected_text() const { return selected_text_; }
+
+    // From code: marks the whole text, and nothing of a text set later.
+    void select_all();
+
+    // The user's acts. type() gives the whole text as it is now, and user_selected() the marked
+    // part of it.
     void type(std::string text);
+    void user_selected(std::string text) { selected_text_ = std::move(text); }
 
     // A character key, before it has an effect: 13 is Enter, 27 Escape. Returns whether the key
     // is to take effect.
@@ -35,6 +44,7 @@ class TextBox final : public Control {
     TextLines lines_;
     TextAccess access_;
     std::string text_;
+    std::string selected_text_;
 };
 
 }  // namespace zephyne

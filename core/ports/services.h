@@ -35,6 +35,24 @@ class Messages {
     virtual Answer ShowDlgMessage(std::string text, std::int16_t flags, std::string title) = 0;
 };
 
+// A line of text from the user.
+class Questions {
+  public:
+    virtual ~Questions() = default;
+
+    // Modal, like a message. "" when the user cancels, or leaves nothing.
+    virtual std::string ask(std::string prompt, std::string title, std::string proposal) = 0;
+};
+
+// The desktop's file manager.
+class FileManager {
+  public:
+    virtual ~FileManager() = default;
+
+    // Opens a window on a folder and returns at once, without waiting for it. Failures are silent.
+    virtual void open_folder(const std::string& folder) = 0;
+};
+
 // The wire between two copies of the program. Only one copy per user holds the place; the others
 // find it taken, speak to the holder and end.
 class HandOver {

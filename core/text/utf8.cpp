@@ -72,18 +72,23 @@ std::string to_utf8(std::string_view bytes) {
     return text;
 }
 
-std::vector<std::string_view> text_lines(std::string_view text) {
+std::string_view take_line(std::string_view& text) {
+    const auto end = std::min(text.find_first_of("\r\n"), text.size());
+    const std::string_view line = text.substr(0, end);
+    text.remove_prefix(end);
+    text.remove_prefix(text.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, text.size()));
+    return line;
+}
+
+std::string_view past_byte_order_mark(std::string_view text) {
     if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
+    return text;
+}
+
+std::vector<std::string_view> text_lines(std::string_view text) {
+    text = past_byte_order_mark(text);
     std::vector<std::string_view> lines;
-    while (!text.empty()) {
-        const auto end = text.find_first_of("\r\n");
-        if (end == std::string_view::npos) {
-            lines.push_back(text);
-            break;
-        }
-        lines.push_back(text.substr(0, end));
-        text.remove_prefix(end + (text.substr(end).starts_with("\r\n") ? 2 : 1));
-    }
+    while (!text.empty()) lines.push_back(take_line(text));
     return lines;
 }
 

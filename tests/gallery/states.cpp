@@ -70,7 +70,7 @@ void draw_latching(const Sheet& sheet) {
     lock_box(painter, scale, sheet.place(724, 28, 33, 19), {.latched = true});
     lock_box(painter, scale, sheet.place(764, 28, 33, 19), {});
     sheet.heading(580, 60, QStringLiteral("transport disabled"));
-    transport(painter, scale, sheet.place(580, 80, 103, 28), {.enabled = false});
+    transport(painter, scale, sheet.place(580, 80, 103, 28), {.enabled = {false, false, false}});
     ribbon(painter, scale, sheet.place(724, 84, 20, 19), {.enabled = false, .latched = true}, 4);
     lock_box(painter, scale, sheet.place(764, 84, 33, 19), {.enabled = false, .latched = true});
     glyph_button(painter, scale, sheet.place(804, 84, 33, 19), {}, Glyph::Reset);

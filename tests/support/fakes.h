@@ -1,15 +1,18 @@
 // Hand-made stand-ins for the machine and the desktop. Each writes down what it was asked for.
 #pragma once
 
+#include "core/controls/form.h"
+#include "core/ports/file_dialogs.h"
+#include "core/ports/midi_out_volume.h"
+#include "core/ports/services.h"
+#include "core/ports/window_host.h"
+
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
-
-#include "core/controls/form.h"
-#include "core/ports/services.h"
-#include "core/ports/window_host.h"
 
 namespace zephyne::test {
 
@@ -52,6 +55,75 @@ class ScriptedMessages final : public Messages {
     Log& log_;
 };
 
+// File dialogs answered beforehand, in turn; with no answer left they are cancelled.
+class ScriptedFileDialogs final : public FileDialogs {
+  public:
+    explicit ScriptedFileDialogs(Log& log) : log_(log) {}
+
+    std::deque<std::string> answers;
+
+    std::optional<std::string> open_file(const FileChoice& choice) override {
+        return answer("open " + choice.default_extension);
+    }
+    std::optional<std::string> save_file(const FileChoice& choice) override {
+        return answer("save " + choice.default_extension);
+    }
+    std::optional<std::string> choose_folder(const std::string& title) override {
+        return answer(title);
+    }
+
+  private:
+    std::optional<std::string> answer(const std::string& question) {
+        log_.push_back("dialog: " + question);
+        if (answers.empty()) return std::nullopt;
+        const std::string first = answers.front();
+        answers.pop_front();
+        return first;
+    }
+
+    Log& log_;
+};
+
+// Answers a question at once; by default with the proposal.
+class ScriptedQuestions final : public Questions {
+  public:
+    explicit ScriptedQuestions(Log& log) : log_(log) {}
+
+    std::optional<std::string> answer;
+
+    std::string ask(std::string prompt, std::string title, std::string proposal) override {
+        log_.push_back("ask: " + prompt + " [" + title + "] " + proposal);
+        return answer.value_or(proposal);
+    }
+
+  private:
+    Log& log_;
+};
+
+class LoggedFileManager final : public FileManager {
+  public:
+    explicit LoggedFileManager(Log& log) : log_(log) {}
+    void open_folder(const std::string& folder) override { log_.push_back("open " + folder); }
+
+  private:
+    Log& log_;
+};
+
+// MIDI outputs whose volumes can be turned by somebody else.
+class FakeMidiOut final : public MidiOutVolume {
+  public:
+    std::vector<std::string> names = {"Zephyne Synthesizer"};
+    std::map<std::uint32_t, std::uint32_t> words;  // full where there is none
+
+    std::uint32_t device_count() const override { return static_cast<std::uint32_t>(names.size()); }
+    std::string device_name(std::uint32_t device) const override { return names[device]; }
+    std::uint32_t volume(std::uint32_t device) const override {
+        const auto found = words.find(device);
+        return found == words.end() ? 0xFFFFFFFF : found->second;
+    }
+    void set_volume(std::uint32_t device, std::uint32_t volume) override { words[device] = volume; }
+};
+
 class FakeHandOver final : public HandOver {
   public:
     bool taken = false;  // another copy runs
@@ -70,10 +142,11 @@ class FakeWindows final : public WindowHost {
     Log raised;
     int height_of_text = 0;
     std::function<void(Form&)> on_modal;
+    std::map<std::string, Form*> open;  // the windows that there are, by name
 
     int text_height(const Label&) const override { return height_of_text; }
-    void create(Form&) override {}
-    void destroy(Form&) override {}
+    void create(Form& form) override { open[form.name()] = &form; }
+    void destroy(Form& form) override { open.erase(form.name()); }
     void run_modal(Form& form) override {
         form.set_visible(true);
         form.user_activated();

@@ -172,6 +172,19 @@ TEST_F(MirrorTest, TypingPassesTheKeyFirstAndThenTheWholeText) {
     EXPECT_EQ(widget<QLineEdit>(form.line)->text(), "fixed");
 }
 
+TEST_F(MirrorTest, MarkedTextIsKnownOnBothSides) {
+    form.line.set_text("proposal");
+    form.line.select_all();
+    EXPECT_EQ(widget<QLineEdit>(form.line)->selectedText(), "proposal");
+    QTest::keyClick(widget(form.line), Qt::Key_End);
+    EXPECT_EQ(form.line.selected_text(), "");
+    form.area.set_text("first\r\nsecond");
+    QTest::keyClick(widget(form.area), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(form.area.selected_text(), "first\nsecond");
+    form.area.set_text("other");
+    EXPECT_EQ(form.area.selected_text(), "");
+}
+
 TEST_F(MirrorTest, DraggingASliderRaisesOneChangeAtTheRelease) {
     QWidget* slider = widget(form.slider);
     const int middle = slider->height() / 2;
@@ -362,8 +375,8 @@ class CountingRows final : public Rows {
                    std::size_t) const override {
         ++questions;
     }
-    void pressed(std::size_t) override {}
-    void moved_to(std::size_t) override {}
+    void pressed(std::size_t, ClickWith) override {}
+    void moved_to(std::size_t, ClickWith) override {}
 };
 
 TEST_F(MirrorTest, AHundredThousandRowsAreShownWithoutAskingForEach) {

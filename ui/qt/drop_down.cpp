@@ -27,8 +27,8 @@ class Texts final : public Rows {
                    const paint::RowState& state, std::size_t row) const override {
         paint::drive_row(painter, scale, place, state, texts_[row]);
     }
-    void pressed(std::size_t row) override { on_choose_(row); }
-    void moved_to(std::size_t row) override { selected_ = row; }
+    void pressed(std::size_t row, ClickWith /*key*/) override { on_choose_(row); }
+    void moved_to(std::size_t row, ClickWith /*key*/) override { selected_ = row; }
     void opened(std::size_t row) override { on_choose_(row); }
 
   private:

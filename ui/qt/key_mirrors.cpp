@@ -116,7 +116,9 @@ void TransportMirror::laid_out() {
 
 void TransportMirror::show_property(Property property) {
     if (property != Property::enabled) return;
-    for (Key* key : keys_) key->setEnabled(transport_.transport_enabled());
+    for (std::size_t i = 0; i < key_count; ++i) {
+        keys_[i]->setEnabled(transport_.key_enabled(static_cast<TransportKey>(i)));
+    }
 }
 
 void TransportMirror::move_to(std::size_t key) {
@@ -142,7 +144,9 @@ bool TransportMirror::key_pressed(QKeyEvent& event) {
 
 void TransportMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     paint::TransportState state;
-    state.enabled = transport_.usable() && transport_.transport_enabled();
+    for (std::size_t i = 0; i < key_count; ++i) {
+        state.enabled[i] = transport_.usable() && keys_[i]->isEnabled();
+    }
     state.focus = window().focus_look(transport_);
     state.current = static_cast<paint::TransportKey>(current_);
     switch (transport_.light()) {

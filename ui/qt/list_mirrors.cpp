@@ -14,13 +14,20 @@ class ListBoxRows final : public Rows {
     explicit ListBoxRows(ListBox& list) : list_(list) {}
 
     std::optional<std::size_t> selected() const override { return list_.selected(); }
+    bool is_selected(std::size_t row) const override { return list_.is_selected(row); }
     QString text(std::size_t row) const override { return shown(list_.item(row).text); }
     void paint_row(QPainter& painter, const paint::Scale& scale, const QRect& place,
                    const paint::RowState& state, std::size_t row) const override {
         paint::list_row(painter, scale, place, state, text(row));
     }
-    void pressed(std::size_t row) override { list_.click(row); }
-    void moved_to(std::size_t row) override { list_.click(row); }
+    void pressed(std::size_t row, ClickWith key) override { list_.click(row, key); }
+    void moved_to(std::size_t row, ClickWith key) override { list_.move_to(row, key); }
+    void opened(std::size_t row) override { list_.double_click(row); }
+    bool chosen(std::size_t row, ClickWith key) override {
+        if (list_.selecting() == Selecting::one) return false;
+        list_.click(row, key);
+        return true;
+    }
 
   private:
     ListBox& list_;
@@ -36,8 +43,8 @@ class DirListRows final : public Rows {
                    const paint::RowState& state, std::size_t row) const override {
         paint::folder_row(painter, scale, place, state, list_.rows()[row].depth, text(row));
     }
-    void pressed(std::size_t row) override { list_.select(row); }
-    void moved_to(std::size_t row) override { list_.select(row); }
+    void pressed(std::size_t row, ClickWith /*key*/) override { list_.select(row); }
+    void moved_to(std::size_t row, ClickWith /*key*/) override { list_.select(row); }
     void opened(std::size_t row) override { list_.open(row); }
 
   private:

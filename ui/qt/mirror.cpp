@@ -41,7 +41,7 @@ void Mirror::attach() {
     control_.observe(this);
     for (const Property property :
          {Property::place, Property::caption, Property::colour, Property::value, Property::items,
-          Property::selection, Property::text, Property::image, Property::font, Property::enabled,
+          Property::text, Property::selection, Property::image, Property::font, Property::enabled,
           Property::visible}) {
         property_changed(property);
     }

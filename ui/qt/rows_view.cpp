@@ -27,7 +27,8 @@ class RowPainter final : public QAbstractItemDelegate {
         paint::RowState state;
         state.enabled = view_.isEnabled();
         state.hovered = (option.state & QStyle::State_MouseOver) != 0;
-        state.selected = rows_.selected() == row;
+        state.selected = rows_.is_selected(row);
+        state.current = view_.hasFocus() && rows_.selected() == row;
         painter->save();
         painter->translate(-origin);
         painter->scale(1 / pixels_.ratio, 1 / pixels_.ratio);
@@ -42,6 +43,11 @@ class RowPainter final : public QAbstractItemDelegate {
     paint::ListKind kind_;
     const Pixels& pixels_;
 };
+
+ClickWith key_held(const QInputEvent& event) {
+    if (event.modifiers() & Qt::ShiftModifier) return ClickWith::shift;
+    return event.modifiers() & Qt::ControlModifier ? ClickWith::ctrl : ClickWith::nothing;
+}
 
 }  // namespace
 
@@ -127,7 +133,7 @@ std::optional<std::size_t> RowsView::row_at(const QMouseEvent& event) const {
 
 void RowsView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
-    if (const auto row = row_at(*event)) rows_.pressed(*row);
+    if (const auto row = row_at(*event)) rows_.pressed(*row, key_held(*event));
 }
 
 void RowsView::mouseMoveEvent(QMouseEvent* /*event*/) {}
@@ -138,11 +144,12 @@ void RowsView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const auto row = row_at(*event);
     if (!row) return;
-    // Two quick clicks on different rows are no double click.
-    if (row == rows_.selected()) {
+    // Two quick clicks on different rows are no double click, nor are two that select.
+    const ClickWith key = key_held(*event);
+    if (row == rows_.selected() && key == ClickWith::nothing) {
         rows_.opened(*row);
     } else {
-        rows_.pressed(*row);
+        rows_.pressed(*row, key);
     }
 }
 
@@ -153,9 +160,15 @@ void RowsView::keyPressEvent(QKeyEvent* event) {
         if (before.isValid()) rows_.opened(static_cast<std::size_t>(before.row()));
         return;
     }
+    const ClickWith key = key_held(*event);
+    const bool chooses = event->key() == Qt::Key_Space && before.isValid() &&
+                         rows_.chosen(static_cast<std::size_t>(before.row()), key);
+    if (chooses) return follow_selection();
     QListView::keyPressEvent(event);
     const QModelIndex now = currentIndex();
-    if (now.isValid() && now != before) rows_.moved_to(static_cast<std::size_t>(now.row()));
+    if (now.isValid() && now != before) {
+        rows_.moved_to(static_cast<std::size_t>(now.row()), key);
+    }
     follow_selection();  // the control may have refused
 }
 

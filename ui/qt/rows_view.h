@@ -1,6 +1,7 @@
 // A list of rows to look at and to choose from: what all our lists have in common.
 #pragma once
 
+#include "core/controls/list_box.h"
 #include "ui/qt/paint/lists.h"
 #include "ui/qt/pixels.h"
 #include "ui/qt/scroll_thumb.h"
@@ -24,14 +25,21 @@ class Rows : public QAbstractListModel {
     // All rows have changed. None: they must not be asked for any more.
     void reset(std::size_t count);
 
+    // The row that the keyboard is on, and whether a row is selected. They differ only where
+    // several rows can be selected.
     virtual std::optional<std::size_t> selected() const = 0;
+    virtual bool is_selected(std::size_t row) const { return selected() == row; }
+
     virtual QString text(std::size_t row) const = 0;
     virtual void paint_row(QPainter& painter, const paint::Scale& scale, const QRect& place,
                            const paint::RowState& state, std::size_t row) const = 0;
 
-    virtual void pressed(std::size_t row) = 0;   // with the mouse
-    virtual void moved_to(std::size_t row) = 0;  // with arrows, Home, End or letters
-    virtual void opened(std::size_t /*row*/) {}  // double click, Enter
+    virtual void pressed(std::size_t row, ClickWith key) = 0;   // with the mouse
+    virtual void moved_to(std::size_t row, ClickWith key) = 0;  // with arrows, Home, End or letters
+    virtual void opened(std::size_t /*row*/) {}                 // double click, Enter
+
+    // Space; false where that is a letter like others.
+    virtual bool chosen(std::size_t /*row*/, ClickWith /*key*/) { return false; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

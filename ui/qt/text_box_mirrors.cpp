@@ -39,6 +39,9 @@ void TextBoxMirror::show_property(Property property) {
         case Property::text:
             show_text();
             break;
+        case Property::selection:
+            show_selection();
+            break;
         case Property::colour:
         case Property::enabled:
             set_colour(text_colour(text_box_));
@@ -61,11 +64,20 @@ TextLineMirror::TextLineMirror(FormWindow& window, TextBox& box)
         text_box_.type(text.toStdString());
         show_text();
     });
+    connect(edit_, &QLineEdit::selectionChanged, this,
+            [this] { text_box_.user_selected(edit_->selectedText().toStdString()); });
+}
+
+void TextLineMirror::show_selection() {
+    if (!text_box_.selected_text().empty()) edit_->selectAll();
 }
 
 void TextLineMirror::show_text() {
     const QString text = shown(text_box_.text());
-    if (text != edit_->text()) edit_->setText(text);
+    if (text == edit_->text()) return;
+    edit_->setText(text);
+    // A long text shows its beginning, unless the user is at work in it.
+    if (!edit_->hasFocus()) edit_->setCursorPosition(0);
 }
 
 void TextLineMirror::laid_out() {
@@ -82,6 +94,15 @@ TextAreaMirror::TextAreaMirror(FormWindow& window, TextBox& box)
     connect(edit_, &QTextEdit::textChanged, this, [this] {
         if (!showing_) take_text();
     });
+    connect(edit_, &QTextEdit::selectionChanged, this, [this] {
+        QString text = edit_->textCursor().selectedText();
+        text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+        text_box_.user_selected(text.toStdString());
+    });
+}
+
+void TextAreaMirror::show_selection() {
+    if (!text_box_.selected_text().empty()) edit_->selectAll();
 }
 
 void TextAreaMirror::take_text() {

@@ -20,6 +20,9 @@ class TextBoxMirror : public Mirror {
 
     // Puts the control's text into the widget where the two differ.
     virtual void show_text() = 0;
+
+    // Marks the whole text, as the control asked for.
+    virtual void show_selection() = 0;
     virtual void set_colour(const QColor& colour) = 0;
 
     TextBox& text_box_;
@@ -31,6 +34,7 @@ class TextLineMirror final : public TextBoxMirror {
 
   private:
     void show_text() override;
+    void show_selection() override;
     void set_colour(const QColor& colour) override { edit_->set_colour(colour); }
     void laid_out() override;
 
@@ -44,6 +48,7 @@ class TextAreaMirror final : public TextBoxMirror {
 
   private:
     void show_text() override;
+    void show_selection() override;
     void set_colour(const QColor& colour) override { edit_->set_colour(colour); }
     void laid_out() override;
     void take_text();

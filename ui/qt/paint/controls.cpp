@@ -145,8 +145,8 @@ void transport(QPainter& painter, const Scale& scale, const QRect& box,
                                  {TransportKey::Pause, Glyph::Pause, TransportLit::Pause},
                                  {TransportKey::Stop, Glyph::Stop, TransportLit::None}};
     for (const Entry& entry : entries) {
-        ControlState one{.enabled = state.enabled};
-        one.latched = state.enabled && entry.lit != TransportLit::None && entry.lit == state.lit;
+        ControlState one{.enabled = state.enabled[static_cast<std::size_t>(entry.key)]};
+        one.latched = one.enabled && entry.lit != TransportLit::None && entry.lit == state.lit;
         if (entry.key == state.pointed) one.pointer = state.pointer;
         if (entry.key == state.current) one.focus = state.focus;
         glyph_button(painter, scale, transport_key_box(scale, box, entry.key), one, entry.glyph);

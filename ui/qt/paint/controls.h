@@ -14,6 +14,7 @@
 #include <QRect>
 #include <QSize>
 #include <QString>
+#include <array>
 
 class QPainter;
 
@@ -51,7 +52,7 @@ inline constexpr int transport_keys = 3;
 enum class TransportLit { None, Play, Pause };
 
 struct TransportState {
-    bool enabled = true;
+    std::array<bool, 3> enabled = {true, true, true};  // Play, Pause, Stop
     TransportLit lit = TransportLit::None;
     TransportKey current = TransportKey::Play;  // the one that focus and keys address
     Focus focus = Focus::None;

@@ -99,6 +99,9 @@ void list_row(QPainter& painter, const Scale& scale, const QRect& row, const Row
               const QString& text) {
     const RowColors colors = row_colors(state, palette::selection);
     row_ground(painter, scale, row, colors.ground);
+    if (state.current && !state.selected && state.enabled) {
+        stroke_round(painter, row, scale.exact(row_radius), scale.stroke(), palette::ice_dim);
+    }
     row_text(painter, scale, row, scale.px(row_text_left), state, colors.text, text);
 }
 

@@ -35,6 +35,7 @@ struct RowState {
     bool enabled = true;
     bool hovered = false;
     bool selected = false;
+    bool current = false;  // the keyboard is here; seen only on a row that is not selected
 };
 
 // A row of a plain list or a drop-down. Too long a text loses its middle.
