@@ -7,11 +7,15 @@
 #include "engine/media_device.h"
 #include "engine/stage.h"
 #include "platform/desktop/desktop_beeper.h"
+#include "platform/desktop/desktop_clipboard.h"
 #include "platform/desktop/desktop_file_manager.h"
+#include "platform/desktop/desktop_pages.h"
+#include "platform/desktop/libraries_in_use.h"
 #include "platform/desktop/local_hand_over.h"
 #include "platform/desktop/mersenne_random.h"
 #include "platform/desktop/program_start.h"
 #include "platform/desktop/qt_event_pump.h"
+#include "platform/desktop/qt_notification_area.h"
 #include "platform/desktop/signal_watcher.h"
 #include "platform/desktop/steady_clock.h"
 #include "platform/files/posix_file_system.h"
@@ -23,8 +27,14 @@
 #include "playlists/open_playlist.h"
 #include "playlists/playlist_editor.h"
 #include "playlists/playlist_file.h"
+#include "shell/about_box.h"
+#include "shell/help.h"
 #include "shell/input_box.h"
 #include "shell/message_box.h"
+#include "shell/profile_strings.h"
+#include "shell/quick_tips.h"
+#include "shell/tray_menu.h"
+#include "shell/web_links.h"
 #include "songdata/file_commands.h"
 #include "songdata/information_window.h"
 #include "songdata/move_file.h"
@@ -33,9 +43,13 @@
 #include "songdata/song_summary.h"
 #include "songdata/view_presets.h"
 #include "songdata/volume_control.h"
+#include "ui/main_window_commands.h"
 #include "ui/main_window_layout.h"
+#include "ui/options_window.h"
+#include "ui/qt/help_window.h"
 #include "ui/qt/pictures.h"
 #include "ui/qt/pixels.h"
+#include "ui/qt/popup_look.h"
 #include "ui/qt/qt_file_dialogs.h"
 #include "ui/qt/qt_window_host.h"
 #include "ui/shut_down.h"
@@ -72,7 +86,9 @@ class Zephyne {
     Zephyne(PosixFileSystem& files, Scheduler& scheduler, LocalHandOver& hand_over)
         : files_(files),
           form_(files_, scheduler),
+          tray_(scheduler),
           pump_(scheduler),
+          profiles_(files_),
           messages_(program_, scheduler, windows_, beeper_),
           synthesizer_(scheduler, {.sound_font = environment("ZEPHYNE_SOUNDFONT")},
                        make_audio_output(environment("ZEPHYNE_AUDIO"))),
@@ -91,6 +107,8 @@ class Zephyne {
           move_file_(stage_, engine_, windows_),
           presets_(stage_, engine_),
           view_presets_(stage_, windows_),
+          tray_menu_(stage_, engine_, windows_, notification_area_),
+          quick_tips_(stage_, windows_, profiles_, clipboard_),
           audition_sequencer_(scheduler, synthesizer_),
           audition_wave_(scheduler, environment("ZEPHYNE_AUDIO")),
           audition_video_(scheduler, environment("ZEPHYNE_AUDIO")),
@@ -98,18 +116,49 @@ class Zephyne {
           open_playlist_(stage_, engine_.order, playlist_file_),
           playlist_editor_(stage_, engine_, scheduler, windows_, playlist_file_,
                            {audition_sequencer_, audition_wave_, audition_video_}),
+          about_(program_, windows_, {ZEPHYNE_VERSION, libraries_in_use()}),
+          help_(program_, files_, help_viewer_),
+          web_links_(program_, files_, pages_),
           layout_(stage_, windows_),
+          options_(stage_, engine_, layout_, windows_, options_services_),
           start_up_(stage_, engine_, layout_, windows_, hand_over),
-          shut_down_(stage_, engine_) {
+          shut_down_(stage_, engine_),
+          commands_(stage_, layout_,
+                    {.show_options = [this] { options_.show(); },
+                     .show_help = [this] { help_.show_contents(); },
+                     .show_web_links = [this] { web_links_.show(); }}) {
         program_.folders = program_folders(files_, start_surroundings());
         midi_volume_.keep_in(joined(program_.folders.own, "midi-volume", files_.path_style()));
         windows_.create(form_);
+        popup_look::dress_tooltips(user_scale_factor());
         synthesizer_.on_problem = [this](const std::string& sentence) {
             messages_.ShowDlgMessage(sentence, 0, "Zephyne");
+        };
+        stage_.services.setvolume = [this] { volume_.setvolume(); };
+        tray_menu_.put_away = [this] { layout_.put_away(); };
+        start_up_.load_tray = [this] { tray_menu_.load(); };
+        start_up_.show_quick_tip = [this] {
+            if (quick_tips_.tips_at_start()) quick_tips_.show();
         };
         start_up_.choose_volume_device = [this] { volume_.start(); };
         start_up_.show_presets = [this] { presets_.show_tooltips(); };
         shut_down_.close_notes = [this] { notes_.unload(); };
+        shut_down_.unload_tray = [this] { tray_menu_.unload(); };
+        tray_menu_.show_about = [this] { about_.show(); };
+        quick_tips_.show_help = [this] { help_.show_contents(); };
+        options_services_.load_tray = [this] { tray_menu_.load(); };
+        options_services_.unload_tray = [this] { tray_menu_.unload(); };
+        options_services_.tray_loaded = [this] { return tray_menu_.loaded(); };
+        options_services_.unload_notes = [this] { notes_.unload(); };
+        options_services_.unload_quick_tip = [this] { quick_tips_.unload(); };
+        options_services_.tips_at_start = [this] { return quick_tips_.tips_at_start(); };
+        options_services_.set_tips_at_start = [this](bool wanted) {
+            quick_tips_.set_tips_at_start(wanted);
+        };
+        options_services_.show_about = [this] { about_.show(); };
+        options_services_.ask_whats_this = [this] { help_.ask_whats_this(); };
+        options_services_.help_text = [this](std::string_view topic) { return help_.topic(topic); };
+        shut_down_.close_help = [this] { help_.close(); };
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
 
@@ -123,10 +172,14 @@ class Zephyne {
     Form1 form_;
     TrayForm tray_;
     QtEventPump pump_;
-    QtWindowHost windows_{user_scale_factor()};
+    QtWindowHost windows_{user_scale_factor(), [this] { return tray_menu_.reachable(); }};
+    QtNotificationArea notification_area_{pictures::tray_icon(),
+                                          popup_look::menu(user_scale_factor())};
     QtFileDialogs file_dialogs_{user_scale_factor()};
     DesktopBeeper beeper_;
+    DesktopClipboard clipboard_;
     MersenneRandom random_;
+    ProfileStrings profiles_;
     MessageBox messages_;
     InputBox questions_{program_, windows_};
     DesktopFileManager file_manager_;
@@ -146,15 +199,25 @@ class Zephyne {
     MoveFile move_file_;
     Presets presets_;
     ViewPresets view_presets_;
+    TrayMenu tray_menu_;
+    QuickTips quick_tips_;
     SequencerBackend audition_sequencer_;
     MpvBackend audition_wave_;
     MpvBackend audition_video_;
     PlaylistFile playlist_file_;
     OpenPlaylist open_playlist_;
     PlaylistEditor playlist_editor_;
+    AboutBox about_;
+    QtHelpViewer help_viewer_{user_scale_factor()};
+    Help help_;
+    DesktopPages pages_;
+    WebLinks web_links_;
     MainWindowLayout layout_;
+    OptionsServices options_services_;
+    OptionsWindow options_;
     StartUp start_up_;
     ShutDown shut_down_;
+    MainWindowCommands commands_;
 };
 
 }  // namespace

@@ -8,6 +8,35 @@ std::string ProgramFolders::file(const FileSystem& files, const std::string& nam
     return joined(installed, name, files.path_style());
 }
 
+std::string_view form_name(std::int16_t number) {
+    switch (number) {
+        case FormNumber::Main:
+            return "Form1";
+        case FormNumber::Options:
+            return "Form2";
+        case FormNumber::Information:
+            return "Form3";
+        case FormNumber::Notes:
+            return "Form4";
+        case FormNumber::About:
+            return "Form5";
+        case FormNumber::MoveFile:
+            return "Form6";
+        case FormNumber::ViewPresets:
+            return "Form8";
+        case FormNumber::MessageBox:
+            return "dlgbox";
+        case FormNumber::InputBox:
+            return "txtbox";
+        case FormNumber::PlaylistEditor:
+            return "Form9";
+        case FormNumber::QuickTip:
+            return "Quick_Tip";
+        default:
+            return "";
+    }
+}
+
 std::string reset_file_name(std::int32_t reset_type) {
     switch (reset_type) {
         case 1:

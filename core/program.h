@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace zephyne {
 
@@ -25,6 +26,9 @@ inline constexpr std::int16_t InputBox = 10;
 inline constexpr std::int16_t PlaylistEditor = 11;
 inline constexpr std::int16_t QuickTip = 12;
 }  // namespace FormNumber
+
+// The name of that window's form; empty for any other number.
+std::string_view form_name(std::int16_t number);
 
 // Why Timer3 blinks the clock.
 namespace Blink {

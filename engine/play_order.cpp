@@ -45,17 +45,21 @@ void PlayOrder::RefillAndPlayNext() {
     PlayNextSong();
 }
 
+// What the cycle is filled with, row by row as the list shows it.
+const ListBox& PlayOrder::all_songs() const {
+    return stage_.settings().Playlist == 1 ? stage_.form.List3 : stage_.form.File1;
+}
+
 void PlayOrder::refill() {
     Form1& f = stage_.form;
-    f.List1.set_items(stage_.settings().Playlist == 1 ? f.List3.items() : f.File1.items(),
-                      Sorting::done);
+    f.List1.set_items(all_songs().items(), Sorting::done);
     stage_.program.OrderIndex =
         runs_backwards(stage_.settings()) ? static_cast<std::int32_t>(f.List1.count()) - 1 : 0;
 }
 
 void PlayOrder::refill_without(std::size_t song) {
     Form1& f = stage_.form;
-    ListRows others = f.File1.items();
+    ListRows others = all_songs().items();
     others.erase(song);
     f.List1.set_items(std::move(others), Sorting::done);
     stage_.program.OrderIndex =

@@ -53,6 +53,7 @@ class PlayOrder final : public NextSong {
     std::function<void()> refreshfiles;
 
   private:
+    const ListBox& all_songs() const;
     std::size_t choose() const;
     void advance_after(std::size_t chosen, std::size_t count);
     void Command19_Click();

@@ -63,14 +63,8 @@ void Player::PlayFile() {
         return stage_.events.pump();
     }
 
-    f.set_title("Zephyne - Playing " + program.CurrentSongName);
+    show_playing();
     display_.UpdateTimeDisplay();
-    if (stage_.shows_tray()) {
-        stage_.tray.mnuPause.enabled = true;
-        stage_.tray.mnuPause.caption = "Pause";
-        stage_.tray.mnuStop.enabled = true;
-        stage_.tray.mnuStop.caption = "Stop";
-    }
     stage_.device.set_transport_enabled(true);
     if (from_start && stage_.settings().Extended == 1 && services.getsonginfo) {
         services.getsonginfo();
@@ -113,6 +107,11 @@ void Player::restart() {
 void Player::show_playing() {
     stage_.form.set_title("Zephyne - Playing " + stage_.program.CurrentSongName);
     stage_.form.Label6.set_caption(length_text(stage_.device.Length()));
+    if (!stage_.shows_tray()) return;
+    stage_.tray.mnuPause.caption = "Pause";
+    stage_.tray.mnuPause.enabled = true;
+    stage_.tray.mnuStop.caption = "Stop";
+    stage_.tray.mnuStop.enabled = true;
 }
 
 void Player::show_waiting() {
@@ -120,6 +119,7 @@ void Player::show_waiting() {
     stage_.tray.mnuPause.caption = "Pause";
     stage_.tray.mnuPause.enabled = false;
     stage_.tray.mnuStop.caption = "Play";
+    stage_.tray.mnuStop.enabled = true;
 }
 
 bool Player::song_still_there() {
@@ -149,7 +149,6 @@ void Player::Done(NotifyCode code) {
     next_.go_on();
 }
 
-// Opens the song that has ended once more; it waits for the Play key.
 void Player::wait_at_start() {
     stage_.device.open_paused(stage_.program.CurrentSongPath);
     stage_.form.set_title("Zephyne");

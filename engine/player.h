@@ -34,11 +34,14 @@ class Player {
     // StopDevice, PlayFile under AutoStarting.
     void restart();
 
-    // Shows "Playing" and the length, as after every start.
+    // Shows "Playing" and the length, as after every start, in the tray as well.
     void show_playing();
 
     // In the tray: the song waits at its start.
     void show_waiting();
+
+    // Opens the current song once more, with the device's type; it waits for a Play key.
+    void wait_at_start();
 
     // Whether the current song's file can still be read; if not, the user is told and the player
     // is idle, without a current song.
@@ -51,7 +54,6 @@ class Player {
     void end_in_manual();
     void preview_clock();
     void blink_near_the_end();
-    void wait_at_start();
     void empty_displays();
 
     Stage& stage_;

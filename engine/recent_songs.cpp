@@ -6,10 +6,8 @@
 #include <utility>
 
 namespace zephyne {
-namespace {
 
-void show_in_tray(Stage& stage) {
-    if (!stage.shows_tray()) return;
+void show_recent_songs(Stage& stage) {
     const auto& songs = stage.program.RecentSongs;
     for (std::size_t slot = 0; slot < songs.size(); ++slot) {
         if (songs[slot].folder.empty()) continue;
@@ -19,8 +17,6 @@ void show_in_tray(Stage& stage) {
         entry.visible = true;
     }
 }
-
-}  // namespace
 
 void RecordRecentSong(Stage& stage) {
     Program& program = stage.program;
@@ -42,12 +38,24 @@ void RecordRecentSong(Stage& stage) {
     SplitPath split = split_path(program.CurrentSongPath, style);
     songs[static_cast<std::size_t>(program.RecentCount - 1)] = {
         with_separator(std::move(split.folder), style), std::move(split.name)};
-    show_in_tray(stage);
+    if (stage.shows_tray()) show_recent_songs(stage);
 }
 
 void record_finished_song(Stage& stage) {
     RecordRecentSong(stage);
     stage.program.SkipRecentOnce = false;
+}
+
+void ForgetRecentSongs(Stage& stage) {
+    stage.program.RecentSongs.fill({});
+    stage.program.RecentCount = 0;
+    if (!stage.shows_tray()) return;
+    stage.tray.sep1.visible = false;
+    for (int number = 1; number <= 5; ++number) {
+        MenuItem& entry = stage.tray.mnuSong(number);
+        entry.caption.clear();
+        entry.visible = false;
+    }
 }
 
 }  // namespace zephyne

@@ -22,6 +22,7 @@ struct SongServices {
     std::function<void(const std::string& song_path)> apply_remembered_volume;
     std::function<void()> getsonginfo;      // the summary of the current song, into Text1
     std::function<void()> release_presets;  // no preset key stays down
+    std::function<void()> setvolume;        // the sound follows the volume sliders
 };
 
 struct Stage {

@@ -2,6 +2,8 @@
 
 #include "core/text/numbers.h"
 
+#include <algorithm>
+
 namespace zephyne {
 namespace {
 
@@ -86,6 +88,16 @@ void TimeDisplay::ClearTimeDisplay() {
     draw_all(digit_image(display, 0));
     stage_.form.Image1.set_image(status_image(display, 1));
     stage_.program.DigitCache.fill(0);
+}
+
+void TimeDisplay::recolour() {
+    const int display = stage_.settings().Display;
+    const auto pictures = digits_of(stage_.form);
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        const int digit = std::max<int>(stage_.program.DigitCache[i], 0);
+        pictures[i]->set_image(digit_image(display, digit));
+    }
+    stage_.form.Image1.set_image(status_image(display, 1));
 }
 
 void TimeDisplay::forget_digits() {

@@ -35,6 +35,9 @@ class TimeDisplay {
     // to resume.
     void rewind_slider();
 
+    // Draws digits and colon again, in another colour. What is not known is drawn as 0.
+    void recolour();
+
     void forget_digits();      // the next update draws all four
     void show_reset_glyphs();  // while the synthesizer is being reset
 

@@ -33,19 +33,17 @@ void TransportKeys::PlayClick(bool& cancel) {
         stage_.events.pump();
         return;
     }
-    if (stage_.shows_tray()) {
-        stage_.tray.mnuPause.caption = "Pause";
-        stage_.tray.mnuPause.enabled = true;
-        stage_.tray.mnuStop.enabled = true;
-        stage_.tray.mnuStop.caption = "Stop";
-    }
     player_.show_playing();
     display_.StopAnimation();
 }
 
 void TransportKeys::PauseClick(bool& cancel) {
-    MediaDevice& device = stage_.device;
     cancel = true;
+    pause_or_resume();
+}
+
+void TransportKeys::pause_or_resume() {
+    MediaDevice& device = stage_.device;
     if (!device.is_open()) return;  // nothing to resume
     between_.EnableControls(Reselect::yes);
     if (device.Mode() == DeviceMode::playing) {

@@ -14,8 +14,11 @@ class TransportKeys {
 
     // Each may set `cancel`, so that the device does not follow the key by itself.
     void PlayClick(bool& cancel);
-    void PauseClick(bool& cancel);  // pauses, or resumes
-    void StopClick(bool& cancel);   // reloads the song, which then waits at its start
+    void PauseClick(bool& cancel);
+    void StopClick(bool& cancel);  // reloads the song, which then waits at its start
+
+    // What the Pause key does: holds the song that plays, else goes on with the one that is held.
+    void pause_or_resume();
 
   private:
     Stage& stage_;

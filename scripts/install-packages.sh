@@ -7,7 +7,7 @@ build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libxcb1-dev lib
        libmpv-dev libutf8proc-dev libexpected-dev timgm6mb-soundfont fonts-inter fonts-liberation
        fonts-dejavu-extra)
 demo=(xvfb openbox xdotool imagemagick)
-test=("${demo[@]}" libgtest-dev python3 openttd-openmsx xauth)
+test=("${demo[@]}" libgtest-dev python3 openttd-openmsx xauth trayer)
 bench=("${test[@]}" libbenchmark-dev fluidsynth hyperfine)
 
 wanted=()

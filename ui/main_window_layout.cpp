@@ -78,6 +78,17 @@ std::vector<Tip> tips(Form1& f) {
 
 }  // namespace
 
+MainWindowLayout::MainWindowLayout(Stage& stage, WindowHost& windows)
+    : stage_(stage), windows_(windows) {
+    stage_.form.Command11.set_on_click([this] { Command11_Click(); });
+}
+
+// "Hide": to the tray icon, or to the taskbar button where there is one.
+void MainWindowLayout::Command11_Click() {
+    if (stage_.settings().ShowBar == 0) return put_away();
+    stage_.form.set_state(WindowState::minimized);
+}
+
 void MainWindowLayout::wide() {
     Form1& f = stage_.form;
     for (Control* control : std::array<Control*, 3>{&f.Drive1, &f.Dir1, &f.File1}) {

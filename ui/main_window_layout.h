@@ -9,7 +9,8 @@ namespace zephyne {
 
 class MainWindowLayout {
   public:
-    MainWindowLayout(Stage& stage, WindowHost& windows) : stage_(stage), windows_(windows) {}
+    // Takes the main window's key "Hide".
+    MainWindowLayout(Stage& stage, WindowHost& windows);
 
     void wide();
     void narrow();
@@ -36,6 +37,7 @@ class MainWindowLayout {
     void put_away();
 
   private:
+    void Command11_Click();
     void show_with_style(std::int32_t style);
 
     Stage& stage_;

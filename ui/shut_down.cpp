@@ -9,7 +9,6 @@ ShutDown::ShutDown(Stage& stage, Engine& engine) : stage_(stage), engine_(engine
         Form_QueryUnload(reason, cancel);
     };
     stage_.form.on_unload = [this] { Form_Unload(); };
-    stage_.form.Command2.set_on_click([this] { stage_.form.request_unload(CloseReason::program); });
 }
 
 void ShutDown::Form_QueryUnload(CloseReason reason, bool& cancel) {

@@ -166,6 +166,10 @@ class Control {
     std::string accessible_name() const;
     void set_accessible_name(std::string name) { accessible_name_ = std::move(name); }
 
+    // What the help says about the control when the user asks what it is; "": nothing.
+    const std::string& help() const { return help_; }
+    void set_help(std::string text) { help_ = std::move(text); }
+
     Colour colour() const { return colour_; }  // of the text; 0 unless set
     void set_colour(Colour colour);
 
@@ -195,6 +199,7 @@ class Control {
     std::string tooltip_;
     std::string last_tooltip_;  // that was not empty
     std::string accessible_name_;
+    std::string help_;
     int tab_;
     TabStop tab_stop_;
     Style style_;

@@ -41,11 +41,6 @@ void CheckBox::click() {
     if (shown() && usable()) set_value(value_ == 0 ? 1 : 0);
 }
 
-void CheckBox::set_on_click(std::function<void()> handler) {
-    on_click_ = std::move(handler);
-    changed(Property::enabled);
-}
-
 int digit_image(int display, int digit) {
     return display * 10 + 1 + digit;
 }

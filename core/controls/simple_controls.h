@@ -8,6 +8,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace zephyne {
 
@@ -51,7 +52,7 @@ class Button final : public Control {
 };
 
 // A box that is checked (1) or not (0). A change of its value runs its click handler, whoever
-// made the change.
+// made the change. One without a handler can be checked all the same: what counts is its value.
 class CheckBox final : public Control {
   public:
     CheckBox(Form& form, const ControlDesign& design)
@@ -60,10 +61,7 @@ class CheckBox final : public Control {
     std::int16_t value() const { return value_; }
     void set_value(std::int16_t value);  // any value but 0 checks the box and is kept as 1
     void click();                        // the user toggled it
-    void set_on_click(std::function<void()> handler);
-
-  protected:
-    bool listened_to() const override { return static_cast<bool>(on_click_); }
+    void set_on_click(std::function<void()> handler) { on_click_ = std::move(handler); }
 
   private:
     std::function<void()> on_click_;
@@ -84,6 +82,8 @@ enum class ImageList {
     loudspeaker,  // one still picture
     sound_waves,  // frames 1..7
     note_pad,     // one still picture
+    light_bulb,   // one still picture
+    emblem,       // one still picture: the program's own
 };
 
 // The image indexes, in one place.

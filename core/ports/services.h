@@ -23,6 +23,12 @@ class Beeper {
     virtual void beep() = 0;
 };
 
+class Clipboard {
+  public:
+    virtual ~Clipboard() = default;
+    virtual void set_text(const std::string& text) = 0;  // UTF-8
+};
+
 // How every part of the program speaks to the user: a modal box with a text. It pumps events
 // until it is answered.
 enum class Answer : std::int16_t { ok = -1, no = 0, yes = 1 };

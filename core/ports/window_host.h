@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace zephyne {
 
@@ -40,6 +41,13 @@ class WindowHost {
 
     // Puts the form's window in front of others and gives it the keyboard, from whatever state.
     virtual void bring_to_front(Form& form) = 0;
+
+    // The form of that name that has a window, the one on the screen if there are several; null
+    // when there is none.
+    virtual Form* find(std::string_view form_name) const = 0;
+
+    // The modal form that alone takes input at present; null when there is none.
+    virtual Form* modal_form() const = 0;
 
     // True when the desktop shows our icon in its notification area, so that a window hidden
     // altogether can be reached again.

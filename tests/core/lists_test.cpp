@@ -141,6 +141,80 @@ TEST(AnyList, TheSelectedRowStaysSelectedWhileItIsThere) {
     }
 }
 
+// A list of a to f, and which of them are selected after each act of the user's.
+struct SelectionDesk : Form {
+    explicit SelectionDesk(Selecting selecting) : Form({.name = "Selection"}) {
+        list.set_selecting(selecting);
+        list.set_items({{"a", {}}, {"b", {}}, {"c", {}}, {"d", {}}, {"e", {}}, {"f", {}}});
+        list.on_click = [this] { ++clicks; };
+    }
+    std::string selected() const {
+        std::string rows;
+        for (const std::size_t row : list.selected_rows()) rows += list.item(row).text;
+        return rows;
+    }
+    std::string click(std::size_t row, ClickWith key = ClickWith::nothing) {
+        list.click(row, key);
+        return selected();
+    }
+    std::string move(std::size_t row, ClickWith key = ClickWith::nothing) {
+        list.move_to(row, key);
+        return selected();
+    }
+
+    ListBox list{*this, ListOrder::by_text, {.name = "list"}};
+    int clicks = 0;
+};
+
+TEST(AnExtendedList, SelectsByClickByRangeAndByToggle) {
+    SelectionDesk desk(Selecting::extended);
+    EXPECT_EQ(desk.click(1), "b");
+    EXPECT_EQ(desk.click(3, ClickWith::ctrl), "bd");
+    EXPECT_EQ(desk.click(1, ClickWith::ctrl), "d");
+    EXPECT_EQ(desk.click(4, ClickWith::shift), "bcde") << "from the last toggle on";
+    EXPECT_EQ(desk.click(0, ClickWith::shift), "ab") << "from the same row, upwards";
+    EXPECT_EQ(desk.move(2), "c");
+    EXPECT_EQ(desk.move(3, ClickWith::shift), "cd");
+    EXPECT_EQ(desk.clicks, 7);
+    EXPECT_EQ(desk.move(5, ClickWith::ctrl), "cd") << "only the keyboard moves";
+    EXPECT_EQ(desk.list.selected(), 5U);
+    EXPECT_EQ(desk.clicks, 7);
+    EXPECT_EQ(desk.click(5, ClickWith::ctrl), "cdf");
+    desk.list.set_selected(0);
+    EXPECT_EQ(desk.selected(), "a") << "as the program sets it";
+}
+
+TEST(ASimpleList, TogglesEveryRowThatIsClicked) {
+    SelectionDesk desk(Selecting::simple);
+    EXPECT_EQ(desk.click(1), "b");
+    EXPECT_EQ(desk.click(4), "be");
+    EXPECT_EQ(desk.move(3), "be");
+    EXPECT_EQ(desk.click(1), "e");
+    desk.list.double_click(2);
+    EXPECT_EQ(desk.selected(), "ce");
+    desk.list.select_all();
+    EXPECT_EQ(desk.selected(), "abcdef");
+    desk.list.select_none();
+    EXPECT_EQ(desk.selected(), "");
+    EXPECT_EQ(desk.clicks, 4);
+}
+
+TEST(AnExtendedList, KeepsItsSelectionWhenOtherRowsComeAndGo) {
+    SelectionDesk desk(Selecting::extended);
+    desk.click(1);
+    desk.click(4, ClickWith::ctrl);
+    desk.click(5, ClickWith::ctrl);
+    desk.list.add({"aa", {}});
+    desk.list.remove_rows({0, 1, 3, 6});
+    EXPECT_EQ(desk.selected(), "be") << "b to e are left, but for c";
+    EXPECT_EQ(desk.list.count(), 3U);
+    EXPECT_FALSE(desk.list.selected()) << "the keyboard was on f";
+    EXPECT_EQ(desk.click(0, ClickWith::shift), "bde") << "the range began behind the last row";
+    desk.list.set_items({{"x", {}}});
+    EXPECT_EQ(desk.selected(), "");
+    EXPECT_EQ(desk.click(0, ClickWith::shift), "x");
+}
+
 TEST(AQueue, KeepsTheOrderInWhichItWasFilled) {
     Lists lists;
     lists.queue.set_items({{"b", {}}, {"a", {}}});

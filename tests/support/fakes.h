@@ -4,6 +4,7 @@
 #include "core/controls/form.h"
 #include "core/ports/file_dialogs.h"
 #include "core/ports/midi_out_volume.h"
+#include "core/ports/notification_area.h"
 #include "core/ports/services.h"
 #include "core/ports/window_host.h"
 
@@ -134,6 +135,55 @@ class FakeHandOver final : public HandOver {
     void poke(std::string_view text) override { sent.push_back("poke " + std::string(text)); }
 };
 
+class FakeClipboard final : public Clipboard {
+  public:
+    std::string text;
+    void set_text(const std::string& copied) override { text = copied; }
+};
+
+// A notification area whose host comes and goes as a test says. The user's act is
+// release(); what is chosen in the menu is clicked on the sheet.
+class FakeNotificationArea final : public NotificationArea {
+  public:
+    explicit FakeNotificationArea(Log& log) : log_(log) {}
+
+    bool host = true;
+    bool menu_open = false;
+    NotifyIconData icon;  // as the program told last
+
+    void notify_icon(NotifyCommand command, const NotifyIconData& data) override {
+        icon = data;
+        if (command == NotifyCommand::add) log_.push_back("icon added");
+        if (command == NotifyCommand::remove) log_.push_back("icon removed");
+    }
+    void set_menu(PopupMenu menu) override { menu_ = std::move(menu); }
+    void show_menu() override {
+        menu_open = true;
+        log_.push_back("menu");
+    }
+    bool has_host() const override { return host; }
+
+    void release(std::uint32_t mouse_message) { on_message(icon.uCallbackMessage, mouse_message); }
+
+    // What the menu shows, as "Pause, -, *Show*": separators, the default entry, "(off)".
+    std::string entries() const {
+        std::string text;
+        for (const MenuItem* item : menu_.items) {
+            if (!item->visible) continue;
+            if (!text.empty()) text += ", ";
+            const std::string caption =
+                item == menu_.default_item ? "*" + item->caption + "*" : item->caption;
+            text += item->kind == MenuItemKind::separator ? "-" : caption;
+            if (!item->enabled) text += " (off)";
+        }
+        return text;
+    }
+
+  private:
+    Log& log_;
+    PopupMenu menu_;
+};
+
 // A desktop without pictures. A modal form is handed to the test, which acts on it.
 class FakeWindows final : public WindowHost {
   public:
@@ -141,6 +191,7 @@ class FakeWindows final : public WindowHost {
     std::map<std::string, std::int32_t> styles;
     Log raised;
     int height_of_text = 0;
+    Form* modal = nullptr;
     std::function<void(Form&)> on_modal;
     std::map<std::string, Form*> open;  // the windows that there are, by name
 
@@ -161,6 +212,11 @@ class FakeWindows final : public WindowHost {
         styles[form.name()] = style;
     }
     void bring_to_front(Form& form) override { raised.push_back(form.name()); }
+    Form* find(std::string_view form_name) const override {
+        const auto found = open.find(std::string(form_name));
+        return found == open.end() ? nullptr : found->second;
+    }
+    Form* modal_form() const override { return modal; }
     bool reachable_when_hidden() const override { return has_icon; }
 };
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "tests/support/world.h"
+#include "ui/main_window_commands.h"
 #include "ui/main_window_layout.h"
 #include "ui/shut_down.h"
 #include "ui/start_up.h"
@@ -31,6 +32,12 @@ class ProgramWorld : public World, private ControlObserver {
     MainWindowLayout layout{stage, windows};
     StartUp start_up{stage, *engine, layout, windows, hand_over};
     ShutDown shut_down{stage, *engine};
+    MainWindowCommands commands{stage,
+                                layout,
+                                {.show_options = [this] { log.push_back("options"); },
+                                 .show_help = [this] { log.push_back("help"); },
+                                 .show_web_links = [this] { log.push_back("web links"); },
+                                 .renamefile = [this] { log.push_back("rename"); }}};
     bool has_tray_host = true;  // the desktop shows tray icons
 
     std::string settings_path() const {

@@ -37,7 +37,7 @@ class World {
     MemoryFileSystem files;
     Program program;
     Form1 form;
-    TrayForm tray;
+    TrayForm tray{scheduler};
     SimulatedBackend midi{"", clock, scheduler, log};
     SimulatedBackend wave{"wave: ", clock, scheduler, log};
     SimulatedBackend video{"video: ", clock, scheduler, log};

@@ -21,6 +21,7 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -251,6 +252,16 @@ TEST_F(MirrorTest, EnterAndEscapePressTheAnswersUnlessAKeyHasTheFocus) {
     EXPECT_EQ(taken(), (Log{"ok", "inner", "inner"}));
 }
 
+TEST_F(MirrorTest, AltAndTheMarkedLetterPressAKeyThatShowsNoMark) {
+    form.inner.set_caption("&Inner && outer");
+    QTest::keyClick(widget(form.line), 'i', Qt::AltModifier);
+    EXPECT_EQ(taken(), Log{"inner"});
+    const auto names = window->findChildren<QAbstractButton*>();
+    EXPECT_TRUE(std::any_of(names.begin(), names.end(), [](const QAbstractButton* key) {
+        return key->accessibleName() == "Inner & outer";
+    }));
+}
+
 TEST_F(MirrorTest, ScreenReadersFindEachControlByKindAndNameAndCanPressIt) {
     const auto reader = [&](const Control& control) {
         return QAccessible::queryAccessibleInterface(widget(control));
@@ -294,6 +305,7 @@ TEST_F(MirrorTest, TheCloseBoxAsksTheForm) {
     EXPECT_TRUE(window->isVisible());
     refuse = false;
     window->close();
+    settle();
     EXPECT_FALSE(window->isVisible());
     EXPECT_FALSE(form.loaded());
 }
@@ -342,6 +354,36 @@ class PaintWatch final : public QObject {
     }
 };
 
+TEST_F(MirrorTest, AWindowThatIsHiddenAndShownInOneStepNeverLeavesTheScreen) {
+    int hidden = 0;
+    window->on_hidden = [&] { ++hidden; };
+    form.set_visible(false);
+    form.set_visible(true);
+    settle();
+    EXPECT_EQ(hidden, 0);
+    window->set_extended_style(0);
+    form.set_visible(false);
+    form.set_visible(true);
+    EXPECT_EQ(hidden, 1) << "its taskbar button goes";
+    form.set_visible(false);
+    settle();
+    EXPECT_EQ(hidden, 2);
+    EXPECT_FALSE(window->isVisible());
+    window->on_hidden = nullptr;
+}
+
+TEST_F(MirrorTest, AWindowIsNotResizedWhileTheWindowManagerTakesItUp) {
+    form.set_visible(false);
+    settle();
+    form.set_visible(true);
+    const QSize before = window->size();
+    Place place = form.place();
+    place.width += 1500;
+    form.set_place(place);
+    EXPECT_EQ(window->size(), before);
+    QTRY_COMPARE(window->size().width(), before.width() + 100);
+}
+
 TEST_F(MirrorTest, AnAnimationPaintsOnlyItsOwnCorner) {
     PaintWatch watch(*window);
     form.roll.set_image(2);
@@ -355,6 +397,39 @@ TEST_F(MirrorTest, AnAnimationPaintsOnlyItsOwnCorner) {
     form.roll.set_visible(false);
     settle();
     EXPECT_TRUE(watch.painted.contains(corner));
+}
+
+TEST_F(MirrorTest, RowsAreSelectedWithMouseAndKeyboardByRangeAndByToggle) {
+    form.list.set_items({});
+    form.list.set_selecting(Selecting::extended);
+    form.list.set_items({{"one", ""}, {"two", ""}, {"three", ""}, {"four", ""}});
+    settle();
+    auto* view = widget<QListView>(form.list);
+    const auto click = [&](int row, Qt::KeyboardModifiers keys) {
+        const QPoint place = view->visualRect(view->model()->index(row, 0)).center();
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, keys, place);
+        settle();
+    };
+    using Rows = std::vector<std::size_t>;
+    click(1, {});
+    click(3, Qt::ControlModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{1, 3}));
+    click(1, Qt::ShiftModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{1, 2, 3}));
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(view, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{0, 1, 2, 3}));
+    QTest::keyClick(view, Qt::Key_Down);
+    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(form.list.selected_rows(), (Rows{1, 2}));
+
+    form.list.on_double_click = [&] { form.log.push_back("opened"); };
+    taken();
+    QTest::keyClick(view, Qt::Key_Return);
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {},
+                       view->visualRect(view->model()->index(2, 0)).center());
+    EXPECT_EQ(taken(), (Log{"opened", "opened"}));
 }
 
 // Counts what a view asks for.

@@ -7,6 +7,7 @@
 #include "ui/qt/paint/message_pictures.h"
 #include "ui/qt/paint/note_roll.h"
 #include "ui/qt/paint/palette.h"
+#include "ui/qt/pictures.h"
 #include "ui/qt/shown_text.h"
 
 #include <QKeyEvent>
@@ -174,6 +175,12 @@ void PictureMirror::paint(QPainter& painter, const paint::Scale& scale) const {
             break;
         case ImageList::note_pad:
             paint::note_pad(painter, scale, box());
+            break;
+        case ImageList::light_bulb:
+            paint::light_bulb(painter, scale, box());
+            break;
+        case ImageList::emblem:
+            pictures::paint_emblem(painter, box());
             break;
     }
     if (is_stop()) {

@@ -74,13 +74,19 @@ FormWindow::FormWindow(Form& form, double factor)
       form_(form),
       pixels_(pixels_of(*this, factor)),
       tooltip_look_(new QWidget(this)),
-      extended_style_(kAppWindowStyle) {
+      extended_style_(kAppWindowStyle),
+      shown_style_(kAppWindowStyle) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     tooltip_look_->setStyleSheet(popup_look::tooltip(factor));
     tooltip_look_->hide();
     moved_.setSingleShot(true);
     moved_.setInterval(rest_after_move);
     connect(&moved_, &QTimer::timeout, this, &FormWindow::report_place);
+    settling_.setSingleShot(true);
+    settling_.setInterval(settle_after_show);
+    connect(&settling_, &QTimer::timeout, this, &FormWindow::settled);
+    hiding_.setSingleShot(true);
+    connect(&hiding_, &QTimer::timeout, this, &QWidget::hide);
 
     for (Control* control : form_.controls()) mirrors_.push_back(make_mirror(*this, *control));
     form_.observe(this);
@@ -143,22 +149,40 @@ QPoint FormWindow::position() const {
     return {pixels_.logical(form_.place().left), pixels_.logical(form_.place().top)};
 }
 
+// Where the window really is does not count here: while a window manager is about to put it into a
+// frame, Qt may report the place of either, and whatever is changed then moves the window by the
+// width of the frame.
 void FormWindow::take_place() {
+    if (settling_.isActive()) return;
     if (client_size() != size() || minimumSize() != size()) setFixedSize(client_size());
-    if (position() != pos() && form_.state() == WindowState::normal) move(position());
+    if (position() == placed_at_ || form_.state() != WindowState::normal) return;
+    placed_at_ = position();
+    move(placed_at_);
 }
 
+// A window that is shown again in the same step is not hidden at all, unless its taskbar button
+// comes or goes, which takes a new show.
 void FormWindow::show_or_hide() {
     if (!form_.visible()) {
-        hide();
+        hiding_.start();
         return;
     }
+    hiding_.stop();
+    if (isVisible() && shown_style_ == extended_style_) return take_state();
+    hide();
+    shown_style_ = extended_style_;
     set_taskbar_button(
         *this, (extended_style_ & kAppWindowStyle) != 0 ? TaskbarButton::yes : TaskbarButton::no);
+    settling_.stop();
     take_place();
     take_state();
     show();
-    QTimer::singleShot(settle_after_show, this, &FormWindow::activate_shown);
+    settling_.start();
+}
+
+void FormWindow::settled() {
+    take_place();
+    activate_shown();
 }
 
 void FormWindow::activate_shown() {
@@ -343,6 +367,7 @@ void FormWindow::report_place() {
     moved_.stop();
     if (!attached_ || position() == pos() || state_of(*this) != WindowState::normal) return;
     form_.user_moved(pixels_.twips(x()), pixels_.twips(y()));
+    placed_at_ = position();
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {

@@ -78,6 +78,7 @@ class FormWindow final : public QWidget, public ControlObserver {
     void use_scale();
     void take_place();
     void show_or_hide();
+    void settled();
     void activate_shown();
     void take_state();
     void report_place();
@@ -91,7 +92,11 @@ class FormWindow final : public QWidget, public ControlObserver {
     std::vector<std::unique_ptr<Mirror>> mirrors_;
     std::vector<const Mirror*> stops_;  // in the order of Tab
     QTimer moved_;                      // runs out when the window has come to rest
+    QTimer settling_;                   // runs while the window manager takes the window up
+    QTimer hiding_;                     // hides it when the present step is over
+    QPoint placed_at_;                  // where the form wanted the window last
     std::int32_t extended_style_;
+    std::int32_t shown_style_;  // which the window was shown with
     bool attached_ = true;
     bool keyboard_used_ = false;  // rather than the mouse, most recently
 };

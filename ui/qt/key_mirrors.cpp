@@ -4,6 +4,7 @@
 #include "ui/qt/form_window.h"
 #include "ui/qt/shown_text.h"
 
+#include <QButtonGroup>
 #include <QKeyEvent>
 #include <charconv>
 
@@ -27,6 +28,15 @@ paint::Pointer pointer_at(const QAbstractButton& key) {
     return key.underMouse() ? paint::Pointer::Over : paint::Pointer::Away;
 }
 
+// "&Next" is shown as "Next", and Alt+N presses it; "&&" stands for the sign itself.
+QString without_mnemonic(const std::string& caption) {
+    QString text = shown(caption);
+    for (qsizetype at = text.indexOf(u'&'); at >= 0; at = text.indexOf(u'&', at + 1)) {
+        text.remove(at, 1);
+    }
+    return text;
+}
+
 bool is_enter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
@@ -46,6 +56,11 @@ bool ButtonMirror::key_pressed(QKeyEvent& event) {
     return true;
 }
 
+void ButtonMirror::show_name() {
+    key_->setAccessibleName(without_mnemonic(button_.accessible_name()));
+    key_->setShortcut(QKeySequence::mnemonic(shown(button_.caption())));
+}
+
 void ButtonMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     paint::ControlState state = look();
     state.pointer = pointer_at(*key_);
@@ -56,7 +71,7 @@ void ButtonMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     } else if (button_.style() == Style::reset) {
         paint::glyph_button(painter, scale, box(), state, paint::Glyph::Reset);
     } else {
-        paint::button(painter, scale, box(), state, shown(button_.caption()));
+        paint::button(painter, scale, box(), state, without_mnemonic(button_.caption()));
     }
 }
 
@@ -86,6 +101,52 @@ void CheckBoxMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     } else {
         paint::check_box(painter, scale, box(), state, shown(check_box_.caption()));
     }
+}
+
+OptionButtonMirror::OptionButtonMirror(FormWindow& window, OptionButton& option)
+    : Mirror(window, option), option_(option), key_(new Key(&window)) {
+    set_widget(key_);
+    key_->setCheckable(true);
+    // An exclusive button is a radio button to screen readers. A group of its own keeps Qt from
+    // clearing the window's other options, which is the control's affair.
+    key_->setAutoExclusive(true);
+    auto* alone = new QButtonGroup(key_);
+    alone->setExclusive(false);
+    alone->addButton(key_);
+    connect(key_, &QAbstractButton::clicked, this, [this] { option_.click(); });
+    connect(key_, &QAbstractButton::toggled, this, [this](bool checked) {
+        if (checked == option_.selected()) return;
+        if (checked) option_.click();
+        key_->setChecked(option_.selected());
+    });
+}
+
+void OptionButtonMirror::show_property(Property property) {
+    if (property != Property::value) return;
+    key_->setChecked(option_.selected());
+    key_->setFocusPolicy(option_.is_group_stop() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+bool OptionButtonMirror::key_pressed(QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+            option_.step(GroupStep::previous);
+            return true;
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+            option_.step(GroupStep::next);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void OptionButtonMirror::paint(QPainter& painter, const paint::Scale& scale) const {
+    paint::ControlState state = look();
+    state.pointer = pointer_at(*key_);
+    state.latched = option_.selected();
+    paint::option_button(painter, scale, box(), state, shown(option_.caption()));
 }
 
 TransportMirror::TransportMirror(FormWindow& window, Transport& transport)

@@ -1,6 +1,7 @@
 // What is pressed: keys, boxes to check, and the transport.
 #pragma once
 
+#include "core/controls/option_button.h"
 #include "core/controls/simple_controls.h"
 #include "ui/qt/mirror.h"
 
@@ -26,6 +27,7 @@ class ButtonMirror final : public Mirror {
 
   private:
     bool key_pressed(QKeyEvent& event) override;
+    void show_name() override;
 
     Button& button_;
     Key* key_;
@@ -40,6 +42,20 @@ class CheckBoxMirror final : public Mirror {
     void show_property(Property property) override;
 
     CheckBox& check_box_;
+    Key* key_;
+};
+
+// Tab stops once in a group, and the arrows move the choice.
+class OptionButtonMirror final : public Mirror {
+  public:
+    OptionButtonMirror(FormWindow& window, OptionButton& option);
+    void paint(QPainter& painter, const paint::Scale& scale) const override;
+
+  private:
+    void show_property(Property property) override;
+    bool key_pressed(QKeyEvent& event) override;
+
+    OptionButton& option_;
     Key* key_;
 };
 

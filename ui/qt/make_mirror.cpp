@@ -26,6 +26,8 @@ std::unique_ptr<Mirror> make_mirror(FormWindow& window, Control& control) {
             return mirror<ButtonMirror, Button>(window, control);
         case ControlKind::check_box:
             return mirror<CheckBoxMirror, CheckBox>(window, control);
+        case ControlKind::option_button:
+            return mirror<OptionButtonMirror, OptionButton>(window, control);
         case ControlKind::list_box:
             return mirror<ListBoxMirror, ListBox>(window, control);
         case ControlKind::drive_list:
@@ -44,7 +46,6 @@ std::unique_ptr<Mirror> make_mirror(FormWindow& window, Control& control) {
             return static_cast<TextBox&>(control).lines() == TextLines::one
                        ? mirror<TextLineMirror, TextBox>(window, control)
                        : mirror<TextAreaMirror, TextBox>(window, control);
-        case ControlKind::option_button:
         case ControlKind::shape:
         case ControlKind::line:
             break;

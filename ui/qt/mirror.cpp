@@ -4,6 +4,7 @@
 #include "ui/qt/form_window.h"
 #include "ui/qt/key_codes.h"
 #include "ui/qt/shown_text.h"
+#include "ui/qt/whats_this.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -123,6 +124,12 @@ bool Mirror::eventFilter(QObject* /*target*/, QEvent* event) {
             window_.show_tooltip(static_cast<QHelpEvent*>(event)->globalPos(),
                                  shown(control_.tooltip()));
             return true;
+        case QEvent::QueryWhatsThis:
+            event->setAccepted(!control_.help().empty());
+            return true;
+        case QEvent::WhatsThis:
+            show_help(static_cast<QHelpEvent*>(event)->globalPos());
+            return true;
         case QEvent::MouseButtonPress:
             window_.mouse_used();
             break;
@@ -137,8 +144,16 @@ bool Mirror::eventFilter(QObject* /*target*/, QEvent* event) {
     return attached_ && handle(*event);
 }
 
+void Mirror::show_help(const QPoint& screen_point) {
+    show_whats_this(*widget_, screen_point, shown(control_.help()), window_.pixels().factor);
+}
+
 bool Mirror::press_key(QKeyEvent& event) {
     window_.key_used(event);
+    if (event.key() == Qt::Key_F1 && event.modifiers() == Qt::ShiftModifier) {
+        show_help(widget_->mapToGlobal(widget_->rect().bottomLeft()));
+        return true;
+    }
     if (takes_enter()) return key_pressed(event) || window_.press_answer_key(event);
     return window_.press_answer_key(event) || key_pressed(event);
 }

@@ -20,6 +20,7 @@
 class QEvent;
 class QKeyEvent;
 class QPainter;
+class QPoint;
 class QPaintEvent;
 class QWidget;
 
@@ -89,6 +90,7 @@ class Mirror : public QObject, public ControlObserver {
 
   private:
     bool press_key(QKeyEvent& event);
+    void show_help(const QPoint& screen_point);
 
     FormWindow& window_;
     Control& control_;

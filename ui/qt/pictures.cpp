@@ -35,6 +35,11 @@ QIcon application_icon() {
     return icon;
 }
 
+void paint_emblem(QPainter& painter, const QRect& box) {
+    load_pictures();
+    QSvgRenderer(QStringLiteral(":/pictures/icon.svg")).render(&painter, box);
+}
+
 QIcon tray_icon() {
     QIcon icon;
     add(icon, QStringLiteral(":/pictures/tray.svg"), {16, 22, 24, 32, 48, 64});

@@ -4,6 +4,8 @@
 #include "ui/qt/paint/type.h"
 
 #include <QMenu>
+#include <QPalette>
+#include <QToolTip>
 #include <memory>
 #include <utility>
 
@@ -15,12 +17,26 @@ namespace palette = paint::palette;
 // Replaces $name by a colour and (n) by a length of n px at 100 %.
 QString filled_in(QString sheet, double factor) {
     const paint::Scale scale{factor};
-    const std::pair<const char*, QColor> colors[] = {
-        {"$ground", palette::popup},        {"$edge", palette::popup_edge},
-        {"$text", palette::engraving},      {"$quiet", palette::quiet},
-        {"$selection", palette::selection}, {"$lit", palette::selection_text}};
+    const std::pair<const char*, QColor> colors[] = {{"$ground", palette::popup},
+                                                     {"$edge", palette::popup_edge},
+                                                     {"$text", palette::engraving},
+                                                     {"$quiet", palette::quiet},
+                                                     {"$selection", palette::selection},
+                                                     {"$lit", palette::selection_text},
+                                                     {"$well", palette::well},
+                                                     {"$prose", palette::well_text},
+                                                     {"$link", palette::ice},
+                                                     {"$face", palette::face_bottom},
+                                                     {"$outline", palette::edge},
+                                                     {"$keytop", palette::key_top},
+                                                     {"$keyend", palette::key_bottom},
+                                                     {"$hovertop", palette::key_hover_top},
+                                                     {"$hoverend", palette::key_hover_bottom},
+                                                     {"$track", palette::scroll_track},
+                                                     {"$thumb", palette::scroll_thumb},
+                                                     {"$off", palette::key_off}};
     for (const auto& [name, color] : colors) sheet.replace(QLatin1String(name), color.name());
-    for (const int length : {1, 2, 3, 4, 11, 22}) {
+    for (const int length : {1, 2, 3, 4, 6, 9, 11, 12, 14, 16, 18, 20, 22}) {
         sheet.replace(QStringLiteral("(%1)").arg(length),
                       QStringLiteral("%1px").arg(scale.px(length)));
     }
@@ -39,16 +55,71 @@ QString tooltip(double factor) {
                      factor);
 }
 
+void dress_tooltips(double factor) {
+    QPalette colors = QToolTip::palette();
+    colors.setColor(QPalette::ToolTipBase, palette::popup);
+    colors.setColor(QPalette::ToolTipText, palette::engraving);
+    colors.setColor(QPalette::Window, palette::popup_edge);
+    QToolTip::setPalette(colors);
+    QToolTip::setFont(paint::font(paint::Role::Caption, paint::Scale{factor}));
+}
+
 QString menu(double factor) {
     return filled_in(
         QStringLiteral("QMenu { background: $ground; color: $text; border: (1) solid $edge;"
                        " font: 500 (11) \"$family\"; }"
-                       "QMenu::item { padding: (4) (22); }"
+                       "QMenu::item { padding: (3) (22); }"
                        "QMenu::item:selected { background: $selection; color: $lit; }"
                        "QMenu::item:disabled { background: transparent; color: $quiet; }"
                        "QMenu::item:default { font-weight: 600; }"
                        "QMenu::icon { width: 0; }"
                        "QMenu::separator { height: (1); background: $edge; margin: (3) 0; }"),
+        factor);
+}
+
+QString whats_this(double factor) {
+    return filled_in(QStringLiteral("QLabel { background: $ground; color: $text;"
+                                    " border: (1) solid $edge; padding: (4) (11);"
+                                    " font: 400 (11) \"$family\"; }"),
+                     factor);
+}
+
+QString help_window(double factor) {
+    return filled_in(
+        QStringLiteral(
+            "QWidget#help { background: $face; }"
+            "QPushButton { color: $text; font: 500 (11) \"$family\"; padding: (4) (12);"
+            " border: (1) solid $outline; border-radius: (3);"
+            " background: qlineargradient(x1:0,y1:0,x2:0,y2:1,"
+            "stop:0 $keytop,stop:1 $keyend); }"
+            "QPushButton:hover { background: qlineargradient(x1:0,y1:0,x2:0,y2:1,"
+            "stop:0 $hovertop,stop:1 $hoverend); }"
+            "QPushButton:pressed { background: $well; }"
+            "QPushButton:focus { border-color: $link; }"
+            "QPushButton:disabled { background: $off; color: $quiet; }"
+            "QTextBrowser { background: $well; color: $prose; border: (1) solid $outline;"
+            " selection-background-color: $selection; selection-color: $lit; }"
+            "QTextBrowser:focus { border-color: $link; }"
+            "QScrollBar:vertical { background: $track; width: (9); margin: 0; }"
+            "QScrollBar::handle:vertical { background: $thumb; min-height: (16);"
+            " border-radius: (2); margin: 0 (2); }"
+            "QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }"
+            "QScrollBar::add-page, QScrollBar::sub-page { background: $track; }"),
+        factor);
+}
+
+QString help_document(double factor) {
+    return filled_in(
+        QStringLiteral("body, p, li, td, th, pre { font: 400 (12) \"$family\"; line-height: 125%;"
+                       " color: $prose; }"
+                       "h1 { font: 600 (20) \"$family\"; color: $lit; }"
+                       "h2 { font: 600 (16) \"$family\"; color: $lit;"
+                       " margin-top: (22); }"
+                       "h3 { font: 600 (12) \"$family\"; color: $text;"
+                       " margin-top: (14); }"
+                       "b, th { font-weight: 600; color: $text; }"
+                       "code, pre { font-family: monospace; color: $text; }"
+                       "a { color: $link; text-decoration: none; }"),
         factor);
 }
 

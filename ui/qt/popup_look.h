@@ -1,4 +1,4 @@
-// Style sheets for the windows that Qt itself opens above ours: menus and tooltips.
+// Style sheets for what Qt itself lays out: menus, tooltips, notes, and the help.
 #pragma once
 
 #include <QString>
@@ -10,7 +10,14 @@ namespace zephyne::popup_look {
 
 // factor: logical pixels per px at 100 %.
 QString tooltip(double factor);
+
+// Gives our colours and type to the tooltips of what has no style sheet: the tray icon.
+void dress_tooltips(double factor);
+
 QString menu(double factor);
+QString whats_this(double factor);
+QString help_window(double factor);    // keys, ground and scroll bar
+QString help_document(double factor);  // the text itself
 
 // Shows a menu (null: does nothing) in our look until the user has chosen, and deletes it.
 void run_menu(QMenu* menu, double factor, const QPoint& screen_point);

@@ -73,6 +73,20 @@ void QtWindowHost::bring_to_front(Form& form) {
     if (FormWindow* window = window_of(form)) window->come_forward();
 }
 
+Form* QtWindowHost::find(std::string_view form_name) const {
+    Form* found = nullptr;
+    for (const auto& [form, window] : windows_) {
+        if (!window || form->name() != form_name) continue;
+        if (!found || form->visible()) found = &window->form();
+    }
+    return found;
+}
+
+Form* QtWindowHost::modal_form() const {
+    const auto* window = dynamic_cast<FormWindow*>(QApplication::activeModalWidget());
+    return window ? &window->form() : nullptr;
+}
+
 bool QtWindowHost::reachable_when_hidden() const {
     return reachable_when_hidden_ && reachable_when_hidden_();
 }

@@ -26,6 +26,8 @@ class QtWindowHost final : public WindowHost {
     std::int32_t extended_style(const Form& form) const override;
     void set_extended_style(Form& form, std::int32_t style) override;
     void bring_to_front(Form& form) override;
+    Form* find(std::string_view form_name) const override;
+    Form* modal_form() const override;
     bool reachable_when_hidden() const override;
 
     // The window of a form; null when it has none.

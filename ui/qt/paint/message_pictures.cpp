@@ -91,4 +91,38 @@ void note_pad(QPainter& painter, const Scale&, const QRect& box) {
     painter.setTransform(before);
 }
 
+void light_bulb(QPainter& painter, const Scale&, const QRect& box) {
+    constexpr double design_size = 46;
+    const QPointF middle(23, 18);
+    const QTransform before = painter.transform();
+    painter.translate(box.topLeft());
+    painter.scale(box.width() / design_size, box.height() / design_size);
+
+    fill_disc(painter, middle, 18, faded(palette::ice, 0.12));
+    fill_disc(painter, middle, 15.5, faded(palette::ice, 0.20));
+
+    QPainterPath glass;
+    glass.addEllipse(middle, 12, 12);
+    glass.addPolygon(QPolygonF({{15.5, 26}, {30.5, 26}, {27.5, 33}, {18.5, 33}, {15.5, 26}}));
+    glass.setFillRule(Qt::WindingFill);
+    painter.fillPath(glass, palette::ice_light);
+
+    QPainterPath filament;
+    filament.moveTo(20, 32);
+    filament.lineTo(18.5, 19);
+    filament.lineTo(21.5, 22);
+    filament.lineTo(23, 18.5);
+    filament.lineTo(24.5, 22);
+    filament.lineTo(27.5, 19);
+    filament.lineTo(26, 32);
+    painter.strokePath(filament,
+                       QPen(palette::ice_dim, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+
+    for (const double top : {34.0, 37.0, 40.0}) {
+        const double inset = top > 39 ? 2 : 0;
+        fill_round(painter, QRectF(18.5 + inset, top, 9 - 2 * inset, 2.2), 1, palette::off_glyph);
+    }
+    painter.setTransform(before);
+}
+
 }  // namespace zephyne::paint

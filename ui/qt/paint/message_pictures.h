@@ -1,4 +1,4 @@
-// The pictures of the message box and of the note window.
+// The pictures of the message box, of the note window and of the quick tips.
 #pragma once
 
 #include "ui/qt/paint/scale.h"
@@ -20,5 +20,8 @@ void sound_waves(QPainter& painter, const Scale& scale, const QRect& box, int fr
 // A sheet of paper and a pencil in a square box; drawn in its design size of 32 px scaled to
 // the box.
 void note_pad(QPainter& painter, const Scale& scale, const QRect& box);
+
+// A light bulb, lit, in a square box; drawn in its design size of 46 px scaled to the box.
+void light_bulb(QPainter& painter, const Scale& scale, const QRect& box);
 
 }  // namespace zephyne::paint

@@ -1,0 +1,78 @@
+#include "platform/desktop/qt_notification_area.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QWindow>
+
+namespace zephyne {
+QtNotificationArea::QtNotificationArea(const QIcon& icon, const QString& menu_look)
+    : menu_(menu_look) {
+    icon_.setIcon(icon);
+    // For a desktop that draws the menu by itself. Where Qt opens it, show_menu() finds it open.
+    icon_.setContextMenu(menu_.widget());
+    QObject::connect(&icon_, &QSystemTrayIcon::activated, &icon_,
+                     [this](QSystemTrayIcon::ActivationReason reason) { activated(reason); });
+}
+
+void QtNotificationArea::notify_icon(NotifyCommand command, const NotifyIconData& data) {
+    if (command == NotifyCommand::remove) {
+        menu_.close();
+        icon_.hide();
+        return;
+    }
+    if ((data.uFlags & NotifyIconData::message_valid) != 0) {
+        callback_message_ = data.uCallbackMessage;
+    }
+    if ((data.uFlags & NotifyIconData::tip_valid) != 0) {
+        const QString tip = QString::fromStdString(data.tip());
+        if (tip != icon_.toolTip()) icon_.setToolTip(tip);
+    }
+    menu_.bring_up_to_date();
+    if (command == NotifyCommand::add) icon_.show();
+    watch_icon_window();
+}
+
+// In the older system tray the icon is a window of ours, which would not be clicked while one of
+// our windows is modal. Qt lets the clicks through to a window of a tooltip's type, where they are
+// taken before Qt's widgets drop them. The icon's window is made anew with each host.
+void QtNotificationArea::watch_icon_window() {
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        QWindow* window = widget->windowHandle();
+        if (!widget->inherits("QSystemTrayIconSys") || !window) continue;
+        if (window->type() == Qt::ToolTip) continue;
+        window->setFlags((window->flags() & ~Qt::WindowType_Mask) | Qt::ToolTip);
+        window->installEventFilter(this);
+    }
+}
+
+bool QtNotificationArea::eventFilter(QObject* /*window*/, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+            return true;
+        case QEvent::MouseButtonRelease:
+            break;
+        default:
+            return false;
+    }
+    const auto button = static_cast<const QMouseEvent*>(event)->button();
+    if (button == Qt::LeftButton) activated(QSystemTrayIcon::Trigger);
+    if (button == Qt::RightButton) activated(QSystemTrayIcon::Context);
+    return true;
+}
+
+// Of a double click the first release comes as Trigger, and the second as DoubleClick.
+void QtNotificationArea::activated(QSystemTrayIcon::ActivationReason reason) {
+    if (!on_message) return;
+    switch (reason) {
+        case QSystemTrayIcon::Trigger:
+        case QSystemTrayIcon::DoubleClick:
+            return on_message(callback_message_, MouseMessage::LeftButtonUp);
+        case QSystemTrayIcon::Context:
+            return on_message(callback_message_, MouseMessage::RightButtonUp);
+        default:
+            return;
+    }
+}
+
+}  // namespace zephyne
