@@ -8,7 +8,8 @@
 namespace zephyne {
 
 std::vector<std::string> libraries_in_use() {
-    return {std::string("Qt ") + qVersion(), std::string("FluidSynth ") + fluid_version_str(),
+    // FluidSynth and mpv are not loaded yet: the one is told as it was built with.
+    return {std::string("Qt ") + qVersion(), "FluidSynth " FLUIDSYNTH_VERSION,
             "mpv, for wave and video files", std::string("utf8proc ") + utf8proc_version()};
 }
 
