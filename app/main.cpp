@@ -24,6 +24,7 @@
 #include "platform/sound/synthesizer_engine.h"
 #include "platform/sound/synthesizer_volume.h"
 #include "platform/video/mpv_backend.h"
+#include "playlists/drive_search_window.h"
 #include "playlists/open_playlist.h"
 #include "playlists/playlist_editor.h"
 #include "playlists/playlist_file.h"
@@ -116,7 +117,8 @@ class Zephyne {
           open_playlist_(stage_, engine_.order, playlist_file_),
           playlist_editor_(stage_, engine_, scheduler, windows_, playlist_file_,
                            {audition_sequencer_, audition_wave_, audition_video_}),
-          about_(program_, windows_, {ZEPHYNE_VERSION, libraries_in_use()}),
+          drive_search_(stage_, scheduler, windows_),
+          about_(program_, windows_, {ZEPHYNE_VERSION, libraries_in_use}),
           help_(program_, files_, help_viewer_),
           web_links_(program_, files_, pages_),
           layout_(stage_, windows_),
@@ -126,7 +128,8 @@ class Zephyne {
           commands_(stage_, layout_,
                     {.show_options = [this] { options_.show(); },
                      .show_help = [this] { help_.show_contents(); },
-                     .show_web_links = [this] { web_links_.show(); }}) {
+                     .show_web_links = [this] { web_links_.show(); },
+                     .renamefile = [this] { file_commands_.renamefile(); }}) {
         program_.folders = program_folders(files_, start_surroundings());
         midi_volume_.keep_in(joined(program_.folders.own, "midi-volume", files_.path_style()));
         windows_.create(form_);
@@ -142,6 +145,9 @@ class Zephyne {
         };
         start_up_.choose_volume_device = [this] { volume_.start(); };
         start_up_.show_presets = [this] { presets_.show_tooltips(); };
+        playlist_editor_.show_drive_search = [this](EditedPlaylist& playlist) {
+            drive_search_.show(playlist);
+        };
         shut_down_.close_notes = [this] { notes_.unload(); };
         shut_down_.unload_tray = [this] { tray_menu_.unload(); };
         tray_menu_.show_about = [this] { about_.show(); };
@@ -207,6 +213,7 @@ class Zephyne {
     PlaylistFile playlist_file_;
     OpenPlaylist open_playlist_;
     PlaylistEditor playlist_editor_;
+    DriveSearchWindow drive_search_;
     AboutBox about_;
     QtHelpViewer help_viewer_{user_scale_factor()};
     Help help_;

@@ -6,30 +6,22 @@
 #include <string_view>
 
 namespace zephyne {
-namespace {
 
-bool is_listed(SongKind kind, const Settings& settings) {
-    switch (kind) {
-        case SongKind::midi:
-            return true;
-        case SongKind::wave:
-        case SongKind::video:
-            return settings.AllowWav == 1;
-        case SongKind::none:
-            break;
-    }
-    return false;
+bool is_listed(std::string_view name, const Settings& settings) {
+    const SongKind kind = song_kind(name);
+    return kind == SongKind::midi || (kind != SongKind::none && settings.AllowWav == 1);
 }
 
-}  // namespace
+std::string shown_name(const std::string& name, const Settings& settings) {
+    return settings.Lowercase == 1 ? capitalised(name) : name;
+}
 
 ListRows listed_songs(const std::vector<std::string>& names, const Settings& settings) {
-    const bool lower = settings.Lowercase == 1;
     ListRows songs;
     songs.reserve(names.size());
     for (const std::string& name : names) {
-        if (!is_listed(song_kind(name), settings)) continue;
-        const std::string shown = lower ? capitalised(name) : name;
+        if (!is_listed(name, settings)) continue;
+        const std::string shown = shown_name(name, settings);
         songs.append({shown, shown == name ? std::string_view() : name});
     }
     return songs;

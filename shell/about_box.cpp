@@ -28,7 +28,7 @@ void AboutBox::Form_Load(Form5& form) {
     form.Panel2.set_caption("Version " + facts_.version);
     form.Panel3.set_caption("A jukebox for people who collect MIDI music.");
     std::string libraries;
-    for (const std::string& library : facts_.libraries) libraries += library + "\r\n";
+    for (const std::string& library : facts_.libraries()) libraries += library + "\r\n";
     form.Panel4.set_caption(std::move(libraries));
     form.on_activate = [this] { program_.CurrentForm = FormNumber::About; };
     form.on_unload = [this, &form] { Form_Unload(form); };

@@ -5,14 +5,18 @@
 #include "core/program.h"
 #include "core/sheets/form5.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace zephyne {
 
 struct AboutFacts {
-    std::string version;                 // "0.1.0"
-    std::vector<std::string> libraries;  // "FluidSynth 2.3.1"; four at most fit
+    std::string version;  // "0.1.0"
+
+    // "FluidSynth 2.3.1"; four at most fit. Asked when the box opens, because some libraries are
+    // loaded late.
+    std::function<std::vector<std::string>()> libraries;
 };
 
 class AboutBox {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "core/paths.h"
+#include "core/ports/folder_reader.h"
 
 #include <cstdint>
 #include <memory>
@@ -64,6 +65,14 @@ class FileSystem {
     // in the order in which the platform returns them. Hidden ones are left out.
     virtual FileResult<std::vector<std::string>> list_files(const std::string& folder) const = 0;
     virtual FileResult<std::vector<std::string>> list_folders(const std::string& folder) const = 0;
+
+    // Which folder the path leads to. Asking opens nothing and wakes nothing: where a volume would
+    // be mounted by stepping into the folder, it is not.
+    virtual FileResult<FolderIdentity> identify_folder(const std::string& folder) const = 0;
+
+    // Opens a folder for reading. It is closed when the reader is destroyed.
+    virtual FileResult<std::unique_ptr<FolderReader>> read_folder(
+        const std::string& folder) const = 0;
 
     // The path as it really is on disk (see above), absolute and without a separator at its end,
     // whether a file or a folder.

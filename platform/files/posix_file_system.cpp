@@ -4,9 +4,9 @@
 #include "platform/files/file_errors.h"
 #include "platform/files/open_file.h"
 #include "platform/files/path_lookup.h"
+#include "platform/files/posix_folder_reader.h"
 #include "platform/files/volumes.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -53,20 +53,11 @@ bool belongs_to(Members which, const dirent& entry, int folder) {
 }
 
 FileResult<std::vector<std::string>> list_as_written(const std::string& folder, Members which) {
-    Descriptor file(uninterrupted(
-        [&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC); }));
-    if (!file) return tl::unexpected(folder_error(errno));
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream(::fdopendir(file.number()), ::closedir);
-    if (!stream) return tl::unexpected(folder_error(errno));
-    const int number = file.release();
-
+    auto stream = FolderStream::open(folder);
+    if (!stream) return tl::unexpected(stream.error());
     std::vector<std::string> names;
-    errno = 0;
-    while (const dirent* entry = ::readdir(stream.get())) {
-        if (entry->d_name[0] != '.' && belongs_to(which, *entry, number)) {
-            names.emplace_back(entry->d_name);
-        }
-        errno = 0;
+    while (const dirent* entry = stream->next()) {
+        if (belongs_to(which, *entry, stream->number())) names.emplace_back(entry->d_name);
     }
     if (errno != 0) return tl::unexpected(folder_error(errno));
     return names;
@@ -105,6 +96,17 @@ FileResult<std::vector<std::string>> PosixFileSystem::list_files(const std::stri
 FileResult<std::vector<std::string>> PosixFileSystem::list_folders(
     const std::string& folder) const {
     return list(folder, Members::folders);
+}
+
+FileResult<FolderIdentity> PosixFileSystem::identify_folder(const std::string& folder) const {
+    return on_real_path(folder, identity_of_folder);
+}
+
+FileResult<std::unique_ptr<FolderReader>> PosixFileSystem::read_folder(
+    const std::string& folder) const {
+    auto stream = on_real_path(folder, FolderStream::open);
+    if (!stream) return tl::unexpected(stream.error());
+    return std::make_unique<PosixFolderReader>(std::move(*stream));
 }
 
 FileResult<std::string> PosixFileSystem::resolve(const std::string& path) const {

@@ -16,6 +16,8 @@ class PosixFileSystem final : public FileSystem {
     std::vector<Volume> volumes() const override;
     FileResult<std::vector<std::string>> list_files(const std::string& folder) const override;
     FileResult<std::vector<std::string>> list_folders(const std::string& folder) const override;
+    FileResult<FolderIdentity> identify_folder(const std::string& folder) const override;
+    FileResult<std::unique_ptr<FolderReader>> read_folder(const std::string& folder) const override;
     FileResult<std::string> resolve(const std::string& path) const override;
     FileResult<void> check_readable(const std::string& path) const override;
     FileResult<std::uint64_t> file_length(const std::string& path) const override;

@@ -32,7 +32,9 @@ struct FakePages final : PageOpener {
 struct AboutDesk {
     Program program;
     FakeWindows windows;
-    AboutBox about{program, windows, {"1.2.3", {"Qt 6", "FluidSynth 2"}}};
+    AboutBox about{program, windows, {"1.2.3", [] {
+                                          return std::vector<std::string>{"Qt 6", "FluidSynth 2"};
+                                      }}};
 
     void show(std::function<void(Form5&)> user) {
         windows.on_modal = [user = std::move(user)](Form& form) {

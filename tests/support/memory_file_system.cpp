@@ -33,8 +33,13 @@ struct MemoryFileSystem::Node : std::enable_shared_from_this<MemoryFileSystem::N
     std::string contents;
     std::vector<NodePtr> members;  // in the order in which they were added
     std::unordered_map<std::string, Node*> by_name;
+    bool is_mount = false;
+    const Node* view_of = nullptr;  // the folder that this one shows
+
+    const Node& real() const { return view_of ? *view_of : *this; }
 
     Node* member(const std::string& member_name) const {
+        if (view_of) return view_of->member(member_name);
         const auto found = by_name.find(member_name);
         return found == by_name.end() ? nullptr : found->second;
     }
@@ -43,7 +48,7 @@ struct MemoryFileSystem::Node : std::enable_shared_from_this<MemoryFileSystem::N
     Node* member_in_any_case(const std::string& member_name) const {
         if (Node* found = member(member_name)) return found;
         Node* match = nullptr;
-        for (const NodePtr& candidate : members) {
+        for (const NodePtr& candidate : real().members) {
             if (!equal_ignoring_case(candidate->name, member_name)) continue;
             if (match) return nullptr;
             match = candidate.get();
@@ -88,6 +93,26 @@ class MemoryFileSystem::Output final : public OutputFile {
   private:
     MemoryFileSystem& files_;
     NodePtr node_;  // a removed file can still be written to, as on a real disk
+};
+
+class MemoryFileSystem::Reader final : public FolderReader {
+  public:
+    explicit Reader(std::shared_ptr<const Node> folder) : folder_(std::move(folder)) {}
+
+    std::optional<FolderMember> next() override {
+        while (next_ < folder_->members.size()) {
+            member_ = folder_->members[next_++];
+            if (member_->visibility == Visibility::hidden) continue;
+            if (member_->is_folder) return FolderMember{MemberKind::folder, member_->name};
+            if (member_->kind == FileKind::ordinary) return FolderMember{{}, member_->name};
+        }
+        return std::nullopt;
+    }
+
+  private:
+    std::shared_ptr<const Node> folder_;
+    NodePtr member_;  // read last; keeps its name
+    std::size_t next_ = 0;
 };
 
 MemoryFileSystem::MemoryFileSystem(PathStyle style, std::string current_folder)
@@ -181,6 +206,15 @@ void MemoryFileSystem::add_volume(std::string root, std::string name, std::strin
     volumes_.push_back({std::move(root), std::move(name), std::move(label)});
 }
 
+void MemoryFileSystem::mount(std::string_view path) {
+    folder_for(parts_of(path)).is_mount = true;
+}
+
+void MemoryFileSystem::add_second_view(std::string_view path, std::string_view of) {
+    const Node& shown = must_exist(of);
+    folder_for(parts_of(path)).view_of = &shown;
+}
+
 void MemoryFileSystem::remove(std::string_view path) {
     std::erase_if(volumes_, [&](const Volume& volume) { return volume.root == path; });
     const Node& gone = must_exist(path);
@@ -255,29 +289,49 @@ FileResult<MemoryFileSystem::Node*> MemoryFileSystem::find(const std::string& pa
 }
 
 FileResult<std::vector<std::string>> MemoryFileSystem::list(const std::string& folder,
-                                                            Members which) const {
-    const auto node = find(folder);
-    if (!node) return tl::unexpected(node.error());
-    if (!(*node)->is_folder) return not_found("Path not found");
-    const Fault fault = (*node)->fault;
-    if (fault == Fault::denied || fault == Fault::list_denied) return permission_denied();
+                                                            MemberKind wanted) const {
+    const auto reader = read_folder(folder);
+    if (!reader) return tl::unexpected(reader.error());
     std::vector<std::string> names;
-    for (const NodePtr& member : (*node)->members) {
-        const bool wanted = which == Members::folders
-                                ? member->is_folder
-                                : !member->is_folder && member->kind == FileKind::ordinary;
-        if (wanted && member->visibility == Visibility::shown) names.push_back(member->name);
+    while (const auto member = (*reader)->next()) {
+        if (member->kind == wanted) names.emplace_back(member->name);
     }
     return names;
 }
 
 FileResult<std::vector<std::string>> MemoryFileSystem::list_files(const std::string& folder) const {
-    return list(folder, Members::files);
+    return list(folder, MemberKind::file);
 }
 
 FileResult<std::vector<std::string>> MemoryFileSystem::list_folders(
     const std::string& folder) const {
-    return list(folder, Members::folders);
+    return list(folder, MemberKind::folder);
+}
+
+FileResult<FolderIdentity> MemoryFileSystem::identify_folder(const std::string& folder) const {
+    const auto found = find(folder);
+    if (!found) return tl::unexpected(found.error());
+    if (!(*found)->is_folder) return not_found("Path not found");
+    const auto as_number = [](const Node* node) {
+        return static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(node));
+    };
+    const Node* node = top_.get();
+    const Node* volume = nullptr;
+    for (const std::string& part : parts_of(folder)) {
+        node = node->member_in_any_case(part);
+        if (!volume || node->is_mount) volume = node;
+    }
+    return FolderIdentity{as_number(volume), as_number(&node->real())};
+}
+
+FileResult<std::unique_ptr<FolderReader>> MemoryFileSystem::read_folder(
+    const std::string& folder) const {
+    const auto node = find(folder);
+    if (!node) return tl::unexpected(node.error());
+    if (!(*node)->is_folder) return not_found("Path not found");
+    const Fault fault = (*node)->fault;
+    if (fault == Fault::denied || fault == Fault::list_denied) return permission_denied();
+    return std::make_unique<Reader>((*node)->real().shared_from_this());
 }
 
 FileResult<std::string> MemoryFileSystem::resolve(const std::string& path) const {

@@ -11,6 +11,7 @@
 
 #include "core/ports/file_system.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -36,6 +37,11 @@ class MemoryFileSystem final : public FileSystem {
                   FileKind kind = FileKind::ordinary, Visibility visibility = Visibility::shown);
     void add_folder(std::string_view path, Visibility visibility = Visibility::shown);
     void add_volume(std::string root, std::string name, std::string label = {});
+    // What lies in this folder is on a volume of its own, which is no drive yet (see add_volume).
+    void mount(std::string_view path);
+
+    // The same folder in a second place, as a mount can show it; it may lie inside itself there.
+    void add_second_view(std::string_view path, std::string_view of);
     void remove(std::string_view path);  // a file, a folder with all in it, or a volume
 
     // Looking at it. A path is taken exactly as written.
@@ -61,6 +67,8 @@ class MemoryFileSystem final : public FileSystem {
     std::vector<Volume> volumes() const override;
     FileResult<std::vector<std::string>> list_files(const std::string& folder) const override;
     FileResult<std::vector<std::string>> list_folders(const std::string& folder) const override;
+    FileResult<FolderIdentity> identify_folder(const std::string& folder) const override;
+    FileResult<std::unique_ptr<FolderReader>> read_folder(const std::string& folder) const override;
     FileResult<std::string> resolve(const std::string& path) const override;
     FileResult<void> check_readable(const std::string& path) const override;
     FileResult<std::uint64_t> file_length(const std::string& path) const override;
@@ -74,8 +82,8 @@ class MemoryFileSystem final : public FileSystem {
   private:
     struct Node;
     class Output;
+    class Reader;
     using NodePtr = std::shared_ptr<Node>;
-    enum class Members { files, folders };
 
     std::vector<std::string> parts_of(std::string_view path) const;
     std::string path_of(const std::vector<std::string>& parts) const;
@@ -88,7 +96,7 @@ class MemoryFileSystem final : public FileSystem {
     FileResult<void> write_fault();
     FileResult<void> give_place(Node& file, const std::string& to);
     std::string volume_of(const std::string& path) const;
-    FileResult<std::vector<std::string>> list(const std::string& folder, Members which) const;
+    FileResult<std::vector<std::string>> list(const std::string& folder, MemberKind wanted) const;
 
     PathStyle style_;
     NodePtr top_;  // holds the drives, in the posix style the root folder as the only one
