@@ -24,7 +24,7 @@ std::string length_text(Milliseconds length) {
 }
 
 std::string percent_text(int percent) {
-    return " " + decimal(static_cast<std::int64_t>(percent)) + "%";
+    return std::string(" ").append(decimal(static_cast<std::int64_t>(percent))).append("%");
 }
 
 TimeDisplay::TimeDisplay(Stage& stage) : stage_(stage) {

@@ -34,12 +34,15 @@ bool zephyne::load_synthesizer_library() {
     return loaded;
 }
 
+// NOLINTBEGIN(bugprone-macro-parentheses): the arguments are types and lists in parentheses.
 #define ZEPHYNE_PASS_ON(result, name, parameters, arguments)                    \
     static LibraryFunction the_##name(#name);                                   \
     extern "C" result name parameters {                                         \
         if (!the_##name.address) return result();                               \
         return reinterpret_cast<decltype(&name)>(the_##name.address) arguments; \
     }
+
+// NOLINTEND(bugprone-macro-parentheses)
 
 // clang-format off
 using Settings = fluid_settings_t*;

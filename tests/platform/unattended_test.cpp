@@ -72,7 +72,7 @@ class Unattended : public testing::TestWithParam<std::string> {
     VirtualPump events_{clock_, scheduler_};
     PosixFileSystem files_;
     Form1 form_{files_, scheduler_};
-    TrayForm tray_;
+    TrayForm tray_{scheduler_};
     Program program_;
     Log log_;  // the songs that have ended, and messages
     ScriptedMessages messages_{log_};
