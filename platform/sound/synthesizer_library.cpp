@@ -47,8 +47,9 @@ using Synth = fluid_synth_t*;
 using Preset = fluid_preset_t*;
 using Driver = fluid_audio_driver_t*;
 using Text = const char*;
+using OwnText = char*;
 
-ZEPHYNE_PASS_ON(Text, fluid_version_str, (), ())
+ZEPHYNE_PASS_ON(OwnText, fluid_version_str, (), ())
 ZEPHYNE_PASS_ON(fluid_log_function_t, fluid_set_log_function, (int level, fluid_log_function_t function, void* with), (level, function, with))
 
 ZEPHYNE_PASS_ON(Settings, new_fluid_settings, (), ())
