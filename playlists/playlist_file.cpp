@@ -56,7 +56,9 @@ void PlaylistFile::save(const PlaylistLists& lists) {
                                                    "Verify Save") != Answer::yes) {
         return;
     }
-    if (stage_.files.replace_file(*path, playlist_text_of(lists.lines().items()))) {
+    // The file asked about, in whatever case its name is.
+    const std::string target = stage_.files.resolve(*path).value_or(*path);
+    if (stage_.files.replace_file(target, playlist_text_of(lists.lines().items()))) {
         tell("Playlist Saved Successfully!", "Save Complete");
     } else {
         tell("Error Saving Playlist", "Error");

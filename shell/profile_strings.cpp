@@ -33,7 +33,7 @@ bool ProfileStrings::write_string(const std::string& path, const std::string& se
     const std::string before = text.value_or("");
     if (before.size() == FileSystem::text_file_limit) return false;  // there may be more of it
     const std::string after = with_profile_value(before, section, key, value);
-    return files_.replace_file(path, after).has_value();
+    return files_.replace_file(files_.resolve(path).value_or(path), after).has_value();
 }
 
 }  // namespace zephyne

@@ -36,9 +36,8 @@ void SongSummary::getsonginfo() {
     summarise(path);
     const bool newest = SummaryScanPeak_ == SummaryScanDepth_--;
     // A song that cannot be played has no summary of its own to take this one's place.
-    if (newest && !program.Ending && program.CurrentSongPath != path) {
-        stage_.form.Text1.set_text("");
-    }
+    const std::string& now = program.CurrentSongPath;
+    if (newest && !program.Ending && !now.empty() && now != path) stage_.form.Text1.set_text("");
 }
 
 bool SongSummary::stale(const std::string& path) const {

@@ -32,7 +32,7 @@ void MainWindowCommands::Command11_Click() {
 
 void MainWindowCommands::Form_KeyUp(int key) {
     // A playlist leaves the key "Rename" disabled, and F2 with it.
-    if (key != kF2 || stage_.program.SwitchingSong || !stage_.form.Command18.usable()) return;
+    if (key != kF2 || stage_.program.SwitchingSong || !stage_.form.Command18.enabled()) return;
     if (targets_.renamefile) targets_.renamefile();
 }
 
