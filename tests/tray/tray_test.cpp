@@ -148,7 +148,8 @@ TEST_F(TrayIcon, MayBeTakenAwayInAnswerToItsClick) {
     area.on_message = [&](auto...) { area.notify_icon(NotifyCommand::remove, record); };
     for (const QPointer<QWidget> icon : QApplication::topLevelWidgets()) {
         if (!icon->inherits("QSystemTrayIconSys")) continue;
-        QMouseEvent release(QEvent::MouseButtonRelease, {}, {}, Qt::LeftButton, {}, {});
+        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton,
+                            Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(icon->windowHandle(), &release);
         EXPECT_TRUE(icon) << "its event is still being handled";
         EXPECT_TRUE(wait_until([&] { return !icon; }));
