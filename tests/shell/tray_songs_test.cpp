@@ -100,6 +100,16 @@ TEST_F(RecentSongsInTheTray, ASongThatIsNotListedIsAnUnknownError) {
     world.expect_window_unlocked();
 }
 
+TEST_F(RecentSongsInTheTray, APauseThatBeginsBehindTheMessageUnlocksTheWholeWindow) {
+    world.files.add_file("/other/noise.wav");
+    remember("/other/", "noise.wav");
+    start(PlayMode::Alpha);
+    world.settings().AutoDelay = 1;
+    world.messages.while_open = [&] { world.run_for(190'000); };
+    world.tray.mnuSong(5).click();
+    world.expect_window_unlocked();
+}
+
 TEST_F(RecentSongsInTheTray, NothingHappensWhileAnotherSongIsOnItsWay) {
     remember("/music/", "B.mid");
     start(PlayMode::Alpha);
