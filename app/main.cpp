@@ -168,7 +168,11 @@ class Zephyne {
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
 
-    Started start(const std::string& command_line) { return start_up_.Form_Load(command_line); }
+    Started start(const std::string& command_line) {
+        const Started started = start_up_.Form_Load(command_line);
+        if (started != Started::ended) synthesizer_.begin_to_load();
+        return started;
+    }
     bool end(CloseReason reason) { return form_.request_unload(reason); }
     bool ended() const { return program_.Ending; }
 
