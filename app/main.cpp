@@ -10,7 +10,7 @@
 #include "platform/desktop/desktop_clipboard.h"
 #include "platform/desktop/desktop_file_manager.h"
 #include "platform/desktop/desktop_pages.h"
-#include "platform/desktop/font_preparation.h"
+#include "platform/desktop/early_work.h"
 #include "platform/desktop/libraries_in_use.h"
 #include "platform/desktop/local_hand_over.h"
 #include "platform/desktop/mersenne_random.h"
@@ -184,7 +184,7 @@ class Zephyne {
     TrayForm tray_;
     QtEventPump pump_;
     QtWindowHost windows_{user_scale_factor(), [this] { return tray_menu_.reachable(); }};
-    QtNotificationArea notification_area_{pictures::tray_icon(),
+    QtNotificationArea notification_area_{pictures::tray_icon,
                                           popup_look::menu(user_scale_factor())};
     QtFileDialogs file_dialogs_{user_scale_factor()};
     DesktopBeeper beeper_;
@@ -241,8 +241,9 @@ int main(int argc, char** argv) {
     if (line == "--help") return std::fputs(kHelp, stdout), 0;
     if (line == "--version") return std::puts("Zephyne " ZEPHYNE_VERSION), 0;
 
-    FontPreparation fonts;
+    EarlyWork fonts(read_fonts);
     QApplication application(argc, argv);
+    const EarlyWork bus(open_session_bus);
     QApplication::setApplicationName("zephyne");
     QApplication::setApplicationVersion(ZEPHYNE_VERSION);
     QApplication::setDesktopFileName("zephyne");
