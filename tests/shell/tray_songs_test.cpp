@@ -151,6 +151,25 @@ TEST_F(RecentSongsInTheTray, OfEqualNamesInAPlaylistTheOneOfTheFolderIsSelected)
               (std::vector<std::string>{"A.mid|/music/", "B.mid|/music/"}));
 }
 
+TEST_F(RecentSongsInTheTray, InAPlaylistNamesThatDifferOnlyInCaseAreTwoSongs) {
+    world.files.add_file("/other/x.MID");
+    world.open_playlist({"X.mid|/other/", "x.MID|/other/"});
+    remember("/other/", "x.MID");
+    world.tray.mnuSong(5).click();
+    EXPECT_EQ(world.form.File1.selected(), 1U);
+    EXPECT_EQ(world.open_song(), "x.MID");
+}
+
+// In the editor the entry lines change while the window behind it still shows the old list.
+TEST_F(RecentSongsInTheTray, ASongPlaysWhileItsPlaylistIsBeingEdited) {
+    world.open_playlist({"X.mid|/other/", "Y.mid|/other/"});
+    world.form.List3.clear();
+    remember("/other/", "Y.mid");
+    world.tray.mnuSong(5).click();
+    EXPECT_EQ(world.open_song(), "Y.mid");
+    EXPECT_TRUE(world.form.List1.empty());
+}
+
 TEST_F(RecentSongsInTheTray, ASongHandedOverMeanwhileWaitsItsTurn) {
     remember("/other/", "Y.mid");
     start(PlayMode::Alpha);
