@@ -116,9 +116,11 @@ void TraySongs::start(const RecentSong& song, std::size_t row) {
         const FlagGuard switching(program.SwitchingSong);
         f.File1.set_selected(row);
     }
-    const std::string remaining = f.Label4.caption();
-    engine_.order.show_counters();
-    if (!plays_by_itself(program.settings)) f.Label4.set_caption(remaining);
+    if (plays_by_itself(program.settings)) {
+        engine_.order.show_counters();
+    } else {
+        engine_.order.show_total();
+    }
     program.CurrentSongName = std::string(f.File1.item(row).text);
     program.CurrentSongPath = song.folder + song.name;
 
