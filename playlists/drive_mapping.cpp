@@ -25,7 +25,7 @@ std::optional<std::string> DriveMapping::find(std::string_view folder) const {
     std::string below(folder.substr(2));
     std::replace(below.begin(), below.end(), '\\', separator(PathStyle::posix));
     for (const std::string& place : places->second) {
-        if (const auto found = files_.resolve(place + separator(PathStyle::posix) + below)) {
+        if (const auto found = files_.resolve(joined(place, below, PathStyle::posix))) {
             return with_separator(*found, PathStyle::posix);
         }
     }
