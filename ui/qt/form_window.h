@@ -16,6 +16,8 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <optional>
 #include <vector>
 
 namespace zephyne {
@@ -47,6 +49,7 @@ class FormWindow final : public QWidget, public ControlObserver {
 
     // For mirrors. Paints these device pixels anew.
     void repaint(const QRect& device);
+    bool holds(const Place& place) const;  // whether any of it lies within the client area
     paint::Focus focus_look(const Control& control) const;
     void follow_focus();  // gives Qt's focus to the form's focused control
     void key_used(const QKeyEvent& event);
@@ -94,7 +97,7 @@ class FormWindow final : public QWidget, public ControlObserver {
     QTimer moved_;                      // runs out when the window has come to rest
     QTimer settling_;                   // runs while the window manager takes the window up
     QTimer hiding_;                     // hides it when the present step is over
-    QPoint placed_at_;                  // where the form wanted the window last
+    std::optional<QPoint> placed_at_;   // where the form wanted the window last
     std::int32_t extended_style_;
     std::int32_t shown_style_;  // which the window was shown with
     bool attached_ = true;
