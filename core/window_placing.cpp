@@ -66,9 +66,9 @@ Corner reachable(const Place& place, const std::vector<Place>& screens) {
         const Overlap seen = overlap(place, screen);
         return seen.width * seen.height;
     };
-    const auto best = std::max_element(
-        screens.begin(), screens.end(),
-        [&](const Place& a, const Place& b) { return area_on(a) < area_on(b); });
+    const auto best =
+        std::max_element(screens.begin(), screens.end(),
+                         [&](const Place& a, const Place& b) { return area_on(a) < area_on(b); });
     return {nearest(place.left, place.width, best->left, best->width),
             nearest(place.top, place.height, best->top, best->height)};
 }

@@ -1,4 +1,5 @@
-// Where a window comes up: where it was closed last, but always where the mouse can take hold of it.
+// Where a window comes up: where it was closed last, but always where the mouse can take hold of
+// it.
 #pragma once
 
 #include "core/ports/window_host.h"

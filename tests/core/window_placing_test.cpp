@@ -1,5 +1,6 @@
-#include "core/controls/control.h"
 #include "core/window_placing.h"
+
+#include "core/controls/control.h"
 
 #include <gtest/gtest.h>
 

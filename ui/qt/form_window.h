@@ -17,7 +17,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <optional>
 #include <vector>
 
 namespace zephyne {
