@@ -10,6 +10,7 @@
 #include "platform/desktop/desktop_clipboard.h"
 #include "platform/desktop/desktop_file_manager.h"
 #include "platform/desktop/desktop_pages.h"
+#include "platform/desktop/font_preparation.h"
 #include "platform/desktop/libraries_in_use.h"
 #include "platform/desktop/local_hand_over.h"
 #include "platform/desktop/mersenne_random.h"
@@ -168,7 +169,11 @@ class Zephyne {
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
 
-    Started start(const std::string& command_line) { return start_up_.Form_Load(command_line); }
+    Started start(const std::string& command_line) {
+        const Started started = start_up_.Form_Load(command_line);
+        if (started != Started::ended) synthesizer_.begin_to_load();
+        return started;
+    }
     bool end(CloseReason reason) { return form_.request_unload(reason); }
     bool ended() const { return program_.Ending; }
 
@@ -236,6 +241,7 @@ int main(int argc, char** argv) {
     if (line == "--help") return std::fputs(kHelp, stdout), 0;
     if (line == "--version") return std::puts("Zephyne " ZEPHYNE_VERSION), 0;
 
+    FontPreparation fonts;
     QApplication application(argc, argv);
     QApplication::setApplicationName("zephyne");
     QApplication::setApplicationVersion(ZEPHYNE_VERSION);
@@ -248,6 +254,7 @@ int main(int argc, char** argv) {
     LocalHandOver hand_over(scheduler);
     if (give_way(hand_over, line)) return 0;
     PosixFileSystem file_system;
+    fonts.wait();
     Zephyne zephyne(file_system, scheduler, hand_over);
 
     const SignalWatcher watcher([&] { zephyne.end(CloseReason::session_end); });

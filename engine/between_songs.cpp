@@ -40,6 +40,7 @@ bool BetweenSongs::AutoDelayPause() {
         round_half_even(std::clamp(seconds * 1000, 0.0, static_cast<double>(kLongestPause))));
     if (wanted == 0) return true;
 
+    EnableControls(Reselect::no);  // the key that cancels the pause, too
     Form1& f = stage_.form;
     MediaDevice& device = stage_.device;
     f.Timer1.set_interval(wanted);

@@ -60,7 +60,8 @@ void PlayOrder::refill() {
 void PlayOrder::refill_without(std::size_t song) {
     Form1& f = stage_.form;
     ListRows others = all_songs().items();
-    others.erase(song);
+    // While the playlist is being edited it may be shorter than the list that shows it.
+    if (song < others.size()) others.erase(song);
     f.List1.set_items(std::move(others), Sorting::done);
     stage_.program.OrderIndex =
         runs_backwards(stage_.settings()) ? static_cast<std::int32_t>(f.List1.count()) - 1 : 0;

@@ -97,15 +97,24 @@ void SongList::Drive1_Change() {
     recovering_ = false;
 }
 
+// A playlist is edited in its lines, so that while its editor is open a row may show one song and
+// its line name another.
+bool SongList::shows_its_song() const {
+    const Form1& f = stage_.form;
+    if (stage_.settings().Playlist != 1 || !f.File1.selected()) return true;
+    const std::size_t row = *f.File1.selected();
+    return row < f.List3.count() &&
+           split_entry_line(f.List3.item(row).text).first == f.File1.item(row).text;
+}
+
 // The selected row becomes the current song.
 void SongList::take_selected() {
     Program& program = stage_.program;
     const Form1& f = stage_.form;
-    if (!f.File1.selected()) return;
+    if (!f.File1.selected() || !shows_its_song()) return;
     const std::size_t row = *f.File1.selected();
     const PathStyle style = stage_.files.path_style();
     if (program.settings.Playlist == 1) {
-        if (row >= f.List3.count()) return;
         const auto [name, folder] = split_entry_line(f.List3.item(row).text);
         program.CurrentSongName = std::string(name);
         program.CurrentSongPath = joined(std::string(folder), name, style);
@@ -130,6 +139,7 @@ void SongList::File1_Click() {
     Form1& f = stage_.form;
     if (program.SwitchingSong || program.StartingUp) return;
     if (program.settings.Mode == PlayMode::Queue || f.File1.empty()) return;
+    if (!shows_its_song()) return;
 
     if (stage_.device.is_open()) {
         program.SwitchingSong = true;

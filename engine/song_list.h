@@ -28,6 +28,7 @@ class SongList {
   private:
     void Dir1_Change();
     void Drive1_Change();
+    bool shows_its_song() const;
     void take_selected();
     void play_taken();
 

@@ -63,8 +63,8 @@ void Audition::key_pressed(TransportKey key, bool& cancel) {
     }
 }
 
-// The reset lets events run. False when the user has closed the window meanwhile, or chosen
-// another song.
+// The reset lets events run. False when meanwhile the user has closed the window or chosen another
+// song, or the program has ended.
 bool Audition::reset_for(const std::string& path) {
     const FlagGuard resetting(resetting_);
     form_.set_title("Resetting MCI Sequencer...");
@@ -72,7 +72,7 @@ bool Audition::reset_for(const std::string& path) {
     display_.ClearTimeDisplay();
     stage_.form.set_title("Zephyne");
     form_.set_title("Edit Playlist");
-    return form_.loaded() && chosen() == path;
+    return form_.loaded() && !stage_.program.Ending && chosen() == path;
 }
 
 void Audition::play(const std::string& path) {

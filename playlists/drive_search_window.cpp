@@ -139,13 +139,21 @@ void DriveSearchWindow::report_progress(Opened& window, const FoundSongs& found)
 void DriveSearchWindow::list(Opened& window, const FoundSongs& found) {
     std::vector<std::string> lines;
     lines.reserve(found.songs.size());
-    for (const FoundSongs::Song& song : found.songs) {
-        std::string line =
-            entry_line(shown_name(song.name, stage_.settings()), found.folders[song.folder]);
-        if (line.empty()) {
-            stage_.beeper.beep();
-        } else {
-            lines.push_back(std::move(line));
+    for (auto song = found.songs.begin(); song != found.songs.end();) {
+        const std::string& folder = found.folders[song->folder];
+        std::vector<std::string> files;
+        for (const auto number = song->folder; song != found.songs.end(); ++song) {
+            if (song->folder != number) break;
+            files.push_back(song->name);
+        }
+        const ListRows songs = listed_songs(files, stage_.settings());
+        for (const std::string_view name : entry_names(songs)) {
+            std::string line = entry_line(name, folder);
+            if (line.empty()) {
+                stage_.beeper.beep();
+            } else {
+                lines.push_back(std::move(line));
+            }
         }
     }
     window.results.add(std::move(lines));

@@ -40,10 +40,11 @@ void EditedPlaylist::playlistenable() {
 
 void EditedPlaylist::addtolist(const std::vector<std::size_t>& songs) {
     const std::string folder = with_separator(form_.Dir1.path(), stage_.files.path_style());
+    const std::vector<std::string_view> names = entry_names(form_.List1.items());
     std::vector<std::string> lines;
     lines.reserve(songs.size());
     for (const std::size_t song : songs) {
-        std::string line = entry_line(form_.List1.item(song).text, folder);
+        std::string line = entry_line(names[song], folder);
         if (line.empty()) {
             stage_.beeper.beep();
         } else {

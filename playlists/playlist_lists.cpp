@@ -2,6 +2,8 @@
 
 #include "core/playlist_entry.h"
 
+#include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 namespace zephyne {
@@ -22,6 +24,21 @@ std::string entry_line(std::string_view name, std::string_view folder) {
     const bool splits_right = split_entry_line(line) == std::pair(name, folder);
     if (!splits_right || line.find_first_of("\r\n") != std::string::npos) line.clear();
     return line;
+}
+
+std::vector<std::string_view> entry_names(const ListRows& songs_of_folder) {
+    std::unordered_map<std::string_view, int> shown;
+    const bool differ = std::any_of(songs_of_folder.begin(), songs_of_folder.end(),
+                                    [](const ListRow& song) { return !song.real_name.empty(); });
+    for (const ListRow& song : songs_of_folder) {
+        if (differ) ++shown[song.text];
+    }
+    std::vector<std::string_view> names;
+    names.reserve(songs_of_folder.size());
+    for (const ListRow& song : songs_of_folder) {
+        names.push_back(differ && shown[song.text] > 1 ? song.real() : song.text);
+    }
+    return names;
 }
 
 void PlaylistLists::show_progress() {

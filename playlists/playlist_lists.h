@@ -21,6 +21,11 @@ namespace zephyne {
 // it, or a "|" at which the line would be split in the wrong place. The folder ends in a separator.
 std::string entry_line(std::string_view name, std::string_view folder);
 
+// How entry lines name the songs of one folder, given as its list shows them: as shown, but by the
+// real name where two files look alike in the list, because only that leads to either of them. Row
+// by row; the names belong to the rows.
+std::vector<std::string_view> entry_names(const ListRows& songs_of_folder);
+
 class PlaylistLists {
   public:
     // `lines` must be in entry order (ListOrder::by_entry), `names` by text. Both outlive this.

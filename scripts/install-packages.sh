@@ -3,7 +3,7 @@
 # Costs nothing when they are there already.
 set -euo pipefail
 
-build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libxcb1-dev libfluidsynth-dev
+build=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libxcb1-dev libfontconfig-dev libfluidsynth-dev
        libmpv-dev libutf8proc-dev libexpected-dev timgm6mb-soundfont fonts-inter fonts-liberation
        fonts-dejavu-extra)
 demo=(xvfb openbox xdotool imagemagick)

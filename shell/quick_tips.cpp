@@ -58,9 +58,12 @@ bool QuickTips::WriteTipValue(const std::string& key, const std::string& value) 
     return profiles_.write_string(tip_file(), kSection, key, value);
 }
 
+// Quotes keep blanks, which do not matter here.
 bool QuickTips::tips_at_start() {
     fetch_tip_file();
-    return ReadTipValue(kStart) == "T";
+    std::string start = ReadTipValue(kStart);
+    std::erase(start, ' ');
+    return start == "T";
 }
 
 void QuickTips::set_tips_at_start(bool wanted) {
@@ -114,8 +117,10 @@ void QuickTips::Form_Load(Quick_Tip& form) {
     const auto tell = [this, &form](std::string tip) {
         form.tiplabel.set_caption(std::move(tip));
         const int rest = form.place().height - form.tiplabel.place().height;
-        form.make_room(
-            std::min(windows_.text_height(form.tiplabel), windows_.screen().height - rest));
+        const int screen = windows_.screen().height;
+        form.make_room(std::min(windows_.text_height(form.tiplabel), screen - rest));
+        const int lowest = std::max(screen - form.place().height, 0);
+        if (form.place().top > lowest) form.move_to(form.place().left, lowest);
     };
     form.show_tip.set_value(tips_at_start() ? 1 : 0);
     form.show_tip.set_on_click([] {});  // read when the window is closed by "OK"

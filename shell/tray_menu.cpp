@@ -24,6 +24,8 @@ TrayMenu::TrayMenu(Stage& stage, Engine& engine, WindowHost& windows, Notificati
     area_.on_message = [this](std::uint32_t number, std::uint32_t lParam) {
         message(number, lParam);
     };
+    // Once: an entry may be at work while the icon goes and comes again.
+    area_.set_menu(tray.mnuBar());
 }
 
 void TrayMenu::load() {
@@ -32,7 +34,6 @@ void TrayMenu::load() {
     stage_.tray.mnuAbout.enabled = static_cast<bool>(show_about);
     player_.show_state();
     show_recent_songs(stage_);
-    area_.set_menu(stage_.tray.mnuBar());
     data_ = NotifyIconData{};
     data_.set_tip("Zephyne");
     area_.notify_icon(NotifyCommand::add, data_);
@@ -86,6 +87,7 @@ void TrayMenu::Show(ShownBy by) {
 
     if (stage_.program.CurrentForm != FormNumber::Main) {
         if (by == ShownBy::double_click) stage_.events.pump();
+        if (stage_.program.Ending) return;
         if (Form* over = windows_.find(form_name(stage_.program.CurrentForm))) bring_forward(*over);
     }
     // With the focus last, as nothing else takes input.

@@ -62,24 +62,25 @@ FileResult<bool> TraySongs::show_folder(const std::string& folder) {
     return true;
 }
 
-// Of names that differ only in case, the one whose file it is; of equal names in a playlist, the
+// The row of the very file; else, where names differ only in case, the first, of a playlist rather
 // one of the folder.
 std::optional<std::size_t> TraySongs::row_of(const RecentSong& song) const {
     const Form1& f = stage_.form;
     const bool playlist = stage_.settings().Playlist == 1;
     const PathStyle style = stage_.files.path_style();
     std::optional<std::size_t> found;
+    int most_alike = 0;
     for (std::size_t row = 0; row < f.File1.count(); ++row) {
         const auto& entry = f.File1.item(row);
         if (!equal_ignoring_case(entry.text, song.name)) continue;
-        const bool same =
-            playlist
-                ? row < f.List3.count() &&
-                      with_separator(std::string(split_entry_line(f.List3.item(row).text).second),
-                                     style) == song.folder
-                : entry.real() == song.name;
-        if (same) return row;
-        if (!found) found = row;
+        const bool in_folder =
+            playlist && row < f.List3.count() &&
+            with_separator(std::string(split_entry_line(f.List3.item(row).text).second), style) ==
+                song.folder;
+        const int alike = 1 + (in_folder ? 2 : 0) + (entry.real() == song.name ? 1 : 0);
+        if (alike <= most_alike) continue;
+        most_alike = alike;
+        found = row;
     }
     return found;
 }

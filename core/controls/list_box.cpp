@@ -165,6 +165,14 @@ void ListBox::click(std::size_t index, ClickWith key) {
     if (on_click) on_click();
 }
 
+bool ListBox::choose_all() {
+    if (selecting_ == Selecting::one) return false;
+    if (empty() || !shown() || !usable()) return true;
+    select_all();
+    if (on_click) on_click();
+    return true;
+}
+
 void ListBox::move_to(std::size_t index, ClickWith key) {
     const bool keyboard_only = selecting_ == Selecting::simple ||
                                (selecting_ == Selecting::extended && key == ClickWith::ctrl);

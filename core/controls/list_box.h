@@ -81,6 +81,10 @@ class ListBox final : public Control {
     void click(std::size_t index, ClickWith key = ClickWith::nothing);
     std::function<void()> on_click;
 
+    // The user pressed Ctrl+A: where several rows can be selected all are, and the click event
+    // comes. False elsewhere.
+    bool choose_all();
+
     // The user moved the keyboard to a row: that counts as a click, but for an extended list with
     // Ctrl held, and a simple list, where only the keyboard moves.
     void move_to(std::size_t index, ClickWith key = ClickWith::nothing);

@@ -2,16 +2,31 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QTextDocument>
 #include <QWindow>
 
 namespace zephyne {
+namespace {
+
+// Qt, and some desktops, would take a name with a "<b>" in it for markup; a blank without width
+// behind each sign that begins one takes the meaning from it.
+QString without_markup(QString text) {
+    if (!Qt::mightBeRichText(text)) return text;
+    const QChar nothing(0x200B);
+    return text.replace(u'<', QString(u'<') + nothing).replace(u'&', QString(u'&') + nothing);
+}
+
+}  // namespace
+
 QtNotificationArea::QtNotificationArea(const QIcon& icon, const QString& menu_look)
     : menu_(menu_look) {
     icon_.setIcon(icon);
     // For a desktop that draws the menu by itself. Where Qt opens it, show_menu() finds it open.
     icon_.setContextMenu(menu_.widget());
-    QObject::connect(&icon_, &QSystemTrayIcon::activated, &icon_,
-                     [this](QSystemTrayIcon::ActivationReason reason) { activated(reason); });
+    QObject::connect(
+        &icon_, &QSystemTrayIcon::activated, this,
+        [this](QSystemTrayIcon::ActivationReason reason) { activated(reason); },
+        Qt::QueuedConnection);
 }
 
 void QtNotificationArea::notify_icon(NotifyCommand command, const NotifyIconData& data) {
@@ -24,7 +39,7 @@ void QtNotificationArea::notify_icon(NotifyCommand command, const NotifyIconData
         callback_message_ = data.uCallbackMessage;
     }
     if ((data.uFlags & NotifyIconData::tip_valid) != 0) {
-        const QString tip = QString::fromStdString(data.tip());
+        const QString tip = without_markup(QString::fromStdString(data.tip()));
         if (tip != icon_.toolTip()) icon_.setToolTip(tip);
     }
     menu_.bring_up_to_date();
@@ -46,6 +61,8 @@ void QtNotificationArea::watch_icon_window() {
     }
 }
 
+// What follows a click may take the icon away, and so may a host that goes meanwhile; the click is
+// told when its event, and with it the icon's window, is in use no longer.
 bool QtNotificationArea::eventFilter(QObject* /*window*/, QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseButtonPress:
@@ -57,8 +74,12 @@ bool QtNotificationArea::eventFilter(QObject* /*window*/, QEvent* event) {
             return false;
     }
     const auto button = static_cast<const QMouseEvent*>(event)->button();
-    if (button == Qt::LeftButton) activated(QSystemTrayIcon::Trigger);
-    if (button == Qt::RightButton) activated(QSystemTrayIcon::Context);
+    const auto tell_later = [this](QSystemTrayIcon::ActivationReason reason) {
+        QMetaObject::invokeMethod(
+            this, [this, reason] { activated(reason); }, Qt::QueuedConnection);
+    };
+    if (button == Qt::LeftButton) tell_later(QSystemTrayIcon::Trigger);
+    if (button == Qt::RightButton) tell_later(QSystemTrayIcon::Context);
     return true;
 }
 

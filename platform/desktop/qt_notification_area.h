@@ -26,7 +26,7 @@ class QtNotificationArea final : public QObject, public NotificationArea {
     void activated(QSystemTrayIcon::ActivationReason reason);
 
     QtPopupMenu menu_;
-    QSystemTrayIcon icon_;
+    QSystemTrayIcon icon_{this};
     std::uint32_t callback_message_ = 0;
 };
 

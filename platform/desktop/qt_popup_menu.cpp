@@ -1,6 +1,8 @@
 #include "platform/desktop/qt_popup_menu.h"
 
 #include <QCursor>
+#include <QScreen>
+#include <algorithm>
 #include <utility>
 
 namespace zephyne {
@@ -50,6 +52,17 @@ void QtPopupMenu::bring_up_to_date() {
         actions_[i]->setText(shown(item.caption));
         actions_[i]->setEnabled(item.enabled);
     }
+    stay_on_screen();
+}
+
+// An open menu grows with each song that ends, and most icons are near an edge.
+void QtPopupMenu::stay_on_screen() {
+    if (!menu_.isVisible()) return;
+    const QRect screen = menu_.screen()->availableGeometry();
+    QRect place = menu_.geometry();
+    place.moveRight(std::min(place.right(), screen.right()));
+    place.moveBottom(std::min(place.bottom(), screen.bottom()));
+    menu_.move(std::max(place.left(), screen.left()), std::max(place.top(), screen.top()));
 }
 
 void QtPopupMenu::open_at_mouse() {

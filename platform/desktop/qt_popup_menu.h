@@ -25,6 +25,8 @@ class QtPopupMenu {
     QMenu* widget() { return &menu_; }
 
   private:
+    void stay_on_screen();
+
     QMenu menu_;
     PopupMenu entries_;
     std::vector<QAction*> actions_;  // one for each entry; the menu owns them

@@ -13,7 +13,7 @@ constexpr Milliseconds kProblemCheckInterval = 250;
 SynthesizerEngine::SynthesizerEngine(Scheduler& scheduler, SynthesizerOptions options,
                                      std::unique_ptr<AudioOutput> output)
     : problem_check_(scheduler, kProblemCheckInterval),
-      loader_([this, options = std::move(options)] { load(options); }),
+      options_(std::move(options)),
       output_(std::move(output)) {
     output_->connect(renderer_);
     problem_check_.on_tick = [this] { look_for_problems(); };
@@ -21,28 +21,32 @@ SynthesizerEngine::SynthesizerEngine(Scheduler& scheduler, SynthesizerOptions op
 }
 
 SynthesizerEngine::~SynthesizerEngine() {
-    loader_.join();
+    if (loader_.joinable()) loader_.join();
 }
 
-void SynthesizerEngine::load(const SynthesizerOptions& options) {
+void SynthesizerEngine::begin_to_load() {
+    if (!loader_.joinable()) loader_ = std::thread([this] { load(); });
+}
+
+void SynthesizerEngine::load() {
     loading_problem_ = synthesizer_.open()
-                           ? load_sound_font(options)
+                           ? load_sound_font()
                            : "The package libfluidsynth3 is not installed, so MIDI songs play "
                              "silently. Please install it, and start again.";
     renderer_.set_ready();
 }
 
 // What to tell the user when that fails.
-std::string SynthesizerEngine::load_sound_font(const SynthesizerOptions& options) {
-    const bool chosen = !options.sound_font.empty();
+std::string SynthesizerEngine::load_sound_font() {
+    const bool chosen = !options_.sound_font.empty();
     const std::vector<std::string> fonts =
-        chosen ? std::vector{options.sound_font} : sound_fonts_in(options.usual_places);
+        chosen ? std::vector{options_.sound_font} : sound_fonts_in(options_.usual_places);
     const bool loaded = std::any_of(fonts.begin(), fonts.end(), [this](const std::string& font) {
         return synthesizer_.load_sound_font(font);
     });
     if (loaded) return {};
     if (chosen) {
-        return "The sound font \"" + options.sound_font +
+        return "The sound font \"" + options_.sound_font +
                "\" could not be loaded, so MIDI songs play silently.";
     }
     return "No sound font was found, so MIDI songs play silently. Please install the package "

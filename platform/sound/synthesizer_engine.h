@@ -41,12 +41,16 @@ class SynthesizerEngine {
         virtual void synthesizer_taken() = 0;  // another is about to have it
     };
 
-    // Begins to load the synthesizer and its sound font. The scheduler must outlive the engine.
+    // The scheduler must outlive the engine.
     SynthesizerEngine(Scheduler& scheduler, SynthesizerOptions options,
                       std::unique_ptr<AudioOutput> output);
     ~SynthesizerEngine();  // all players are gone by then
     SynthesizerEngine(const SynthesizerEngine&) = delete;
     SynthesizerEngine& operator=(const SynthesizerEngine&) = delete;
+
+    // Begins to load the synthesizer and its sound font, once, in the background. What is to play
+    // before that is done waits for it. Called when the window is up, which it would slow down.
+    void begin_to_load();
 
     // Called from the event loop with a whole sentence for the user: that there is no synthesizer
     // or sound font and what to install, or that there is no sound device. Each comes at most once.
@@ -77,8 +81,8 @@ class SynthesizerEngine {
         std::shared_ptr<const MidiSong> song;
     };
 
-    void load(const SynthesizerOptions& options);
-    std::string load_sound_font(const SynthesizerOptions& options);
+    void load();
+    std::string load_sound_font();
     void drop_unused_songs();
     void look_for_problems();
 
@@ -90,6 +94,7 @@ class SynthesizerEngine {
 
     std::string loading_problem_;  // written before the renderer is ready, read after
     RepeatingTimer problem_check_;
+    const SynthesizerOptions options_;
     std::thread loader_;
     std::unique_ptr<AudioOutput> output_;  // last: it stops rendering before the rest goes
 };

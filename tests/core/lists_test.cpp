@@ -179,6 +179,14 @@ TEST(AnExtendedList, SelectsByClickByRangeAndByToggle) {
     EXPECT_EQ(desk.move(5, ClickWith::ctrl), "cd") << "only the keyboard moves";
     EXPECT_EQ(desk.list.selected(), 5U);
     EXPECT_EQ(desk.clicks, 7);
+    EXPECT_TRUE(desk.list.choose_all());
+    EXPECT_EQ(desk.selected(), "abcdef");
+    EXPECT_EQ(desk.clicks, 8);
+    desk.list.set_enabled(false);
+    desk.list.select_none();
+    EXPECT_TRUE(desk.list.choose_all());
+    EXPECT_EQ(desk.selected(), "");
+    desk.list.set_enabled(true);
     EXPECT_EQ(desk.click(5, ClickWith::ctrl), "cdf");
     desk.list.set_selected(0);
     EXPECT_EQ(desk.selected(), "a") << "as the program sets it";

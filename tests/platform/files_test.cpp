@@ -1,11 +1,8 @@
-#include "platform/files/posix_file_system.h"
+#include "file_worlds.h"
 #include "platform/files/volumes.h"
-#include "tests/support/memory_file_system.h"
 
-#include <gtest/gtest.h>
 #include <signal.h>
 #include <spawn.h>
-#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -14,7 +11,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -24,78 +20,13 @@
 namespace zephyne {
 namespace {
 
-using Names = std::vector<std::string>;
-
-// Two worlds that must not differ: a real folder, and the one that the logic is tested with.
-class OnDisk {
-  public:
-    OnDisk() {
-        std::string pattern = testing::TempDir() + "zephyne-files-XXXXXX";
-        root = std::filesystem::canonical(::mkdtemp(pattern.data())).native();
-    }
-    ~OnDisk() { std::filesystem::remove_all(root); }
-
-    void add_file(const std::string& name, const std::string& contents) const {
-        std::filesystem::create_directories(std::filesystem::path(path(name)).parent_path());
-        std::ofstream(path(name), std::ios::binary) << contents;
-    }
-    void add_folder(const std::string& name) const {
-        std::filesystem::create_directories(path(name));
-    }
-    void add_pipe(const std::string& name) const { ::mkfifo(path(name).c_str(), 0600); }
-    void add_dangling_link(const std::string& name) const {
-        std::filesystem::create_symlink("nowhere", path(name));
-    }
-    std::string path(const std::string& name) const { return root + "/" + name; }
-
-    std::string root;
-    PosixFileSystem files;
-};
-
-class InMemory {
-  public:
-    void add_file(const std::string& name, const std::string& contents) {
-        files.add_file(path(name), contents);
-    }
-    void add_folder(const std::string& name) { files.add_folder(path(name)); }
-    void add_pipe(const std::string& name) { files.add_file(path(name), "", FileKind::pipe); }
-    void add_dangling_link(const std::string& name) {
-        files.add_file(path(name), "", FileKind::dangling_link);
-    }
-    std::string path(const std::string& name) const { return root + "/" + name; }
-
-    std::string root = "/home/clara/music";
-    MemoryFileSystem files{PathStyle::posix, root};
-};
+using namespace test;
 
 template <class World>
-class Files : public testing::Test {
-  protected:
-    std::string read(const std::string& name) {
-        const auto contents = world_.files.read_file(world_.path(name), 1000);
-        return contents ? *contents : "(" + contents.error().description + ")";
-    }
-    std::string resolved(const std::string& path) {
-        const auto real = world_.files.resolve(path);
-        return real ? *real : "(" + real.error().description + ")";
-    }
-    std::string write(const std::string& name, const std::string& text) {
-        const auto file = world_.files.create_file(world_.path(name));
-        if (!file) return "(" + file.error().description + ")";
-        EXPECT_TRUE((*file)->write(text));
-        EXPECT_TRUE((*file)->close());
-        return read(name);
-    }
-    Names listed(FileResult<Names> names) {
-        if (!names) return {"(" + names.error().description + ")"};
-        std::sort(names->begin(), names->end());
-        return *names;
-    }
-
-    World world_;
-};
-using Worlds = testing::Types<OnDisk, InMemory>;
+class Files : public InBothWorlds<World> {};
 TYPED_TEST_SUITE(Files, Worlds);
+
+class PosixFiles : public OnRealDisk {};
 
 TYPED_TEST(Files, PathIsFoundAsWrittenElseByItsOnlyMatchInAnyCase) {
     this->world_.add_file("Old Songs/MYSONG.MID", "notes");
@@ -181,68 +112,6 @@ TYPED_TEST(Files, WritingGoesIntoTheFileThatIsThereInWhateverCase) {
     EXPECT_EQ(this->write("Missing/song.nte", "x"), "(Path not found)");
 }
 
-TYPED_TEST(Files, ReplacedFileIsWholeAndKeepsItsName) {
-    this->world_.add_file("SONG.NTE", "a long old note");
-    ASSERT_TRUE(this->world_.files.replace_file(this->world_.path("SONG.NTE"), "new"));
-    ASSERT_TRUE(this->world_.files.replace_file(this->world_.path("other.nte"), "fresh"));
-    EXPECT_EQ(this->read("SONG.NTE"), "new");
-    EXPECT_EQ(this->listed(this->world_.files.list_files(this->world_.root)),
-              (Names{"SONG.NTE", "other.nte"}))
-        << "and nothing is left beside it";
-    ASSERT_TRUE(this->world_.files.replace_file(this->world_.path("song.nte"), "a namesake"));
-    EXPECT_EQ(this->read("SONG.NTE"), "new");
-    EXPECT_EQ(this->world_.files.replace_file(this->world_.path("Missing/x.nte"), "").error().kind,
-              FileErrorKind::not_found);
-    this->world_.add_pipe("pipe.nte");
-    EXPECT_FALSE(this->world_.files.replace_file(this->world_.path("pipe.nte"), ""));
-}
-
-TYPED_TEST(Files, RemovingAndRenamingTouchExactlyTheFileOfThatName) {
-    auto& files = this->world_.files;
-    const auto path = [&](const char* name) { return this->world_.path(name); };
-    this->world_.add_file("song.mid", "small");
-    this->world_.add_file("SONG.MID", "large");
-    EXPECT_FALSE(files.remove_file(path("Song.mid"))) << "which of the two?";
-    ASSERT_TRUE(files.rename_file(path("SONG.MID"), path("waltz.mid")));
-    EXPECT_EQ(this->read("waltz.mid"), "large");
-    ASSERT_TRUE(files.rename_file(path("waltz.mid"), path("Waltz.MID"))) << "a new case alone";
-    ASSERT_TRUE(files.remove_file(path("SONG.mid"))) << "its only match now";
-    EXPECT_EQ(this->listed(files.list_files(this->world_.root)), Names{"Waltz.MID"});
-    EXPECT_EQ(files.remove_file(path("gone.mid")).error().description, "File not found");
-}
-
-TYPED_TEST(Files, RenamingAndMovingNeverDestroyAnotherFile) {
-    auto& files = this->world_.files;
-    const auto path = [&](const char* name) { return this->world_.path(name); };
-    this->world_.add_file("song.mid", "song");
-    this->world_.add_file("Other.mid", "other");
-    this->world_.add_folder("Folder");
-    this->world_.add_folder("store");
-    for (const char* taken : {"Other.mid", "OTHER.MID", "Folder"}) {
-        EXPECT_EQ(files.rename_file(path("song.mid"), path(taken)).error().kind,
-                  FileErrorKind::already_exists);
-        EXPECT_EQ(files.move_file(path("song.mid"), path(taken)).error().kind,
-                  FileErrorKind::already_exists);
-    }
-    EXPECT_EQ(files.move_file(path("song.mid"), path("SONG.mid")).error().description,
-              "Permission denied");
-    EXPECT_FALSE(files.move_file(path("song.mid"), path("nowhere/song.mid")));
-    EXPECT_EQ(this->read("song.mid") + this->read("Other.mid"), "songother");
-    ASSERT_TRUE(files.move_file(path("SONG.MID"), path("STORE/Song.mid")));
-    EXPECT_EQ(this->read("store/Song.mid"), "song");
-    EXPECT_EQ(this->read("song.mid"), "(File not found)");
-}
-
-TYPED_TEST(Files, CurrentFolderFollowsTheUser) {
-    const std::string before = this->world_.files.current_folder();
-    this->world_.add_file("Store/waltz.mid", "notes");
-    ASSERT_TRUE(this->world_.files.set_current_folder(this->world_.path("store")));
-    EXPECT_EQ(this->world_.files.current_folder(), this->world_.path("Store"));
-    EXPECT_EQ(*this->world_.files.read_file("waltz.mid", 10), "notes");
-    EXPECT_FALSE(this->world_.files.set_current_folder(this->world_.path("nowhere")));
-    EXPECT_TRUE(this->world_.files.set_current_folder(before));
-}
-
 TYPED_TEST(Files, ReadingStopsAtTheLimit) {
     this->world_.add_file("song.mid", "0123456789");
     const auto read = [&](std::size_t limit) {
@@ -264,11 +133,6 @@ TYPED_TEST(Files, PathsThatCannotBeAreNotFound) {
         EXPECT_FALSE(this->world_.files.list_files(path));
     }
 }
-
-class PosixFiles : public testing::Test {
-  protected:
-    OnDisk disk_;
-};
 
 TEST_F(PosixFiles, LinksToFilesAndFoldersCountAsWhatTheyLeadTo) {
     disk_.add_file("store/waltz.mid", "notes");
@@ -362,66 +226,6 @@ TEST_F(PosixFiles, FullDiskIsReportedAndWhatWasWrittenBeforeStays) {
         disk_.files.read_file(disk_.path("list.plf"), 2000)->starts_with(std::string(800, 'a')));
 }
 
-TEST_F(PosixFiles, FileWithoutWritePermissionIsKept) {
-    disk_.add_file("song.mid", "notes");
-    std::filesystem::permissions(disk_.path("song.mid"), std::filesystem::perms::owner_read);
-    EXPECT_EQ(disk_.files.remove_file(disk_.path("song.mid")).error().description,
-              "Permission denied");
-    EXPECT_EQ(disk_.files.replace_file(disk_.path("song.mid"), "x").error().description,
-              "Permission denied");
-    EXPECT_EQ(*disk_.files.read_file(disk_.path("song.mid"), 100), "notes");
-}
-
-TEST_F(PosixFiles, ReplacedLinkStaysALinkAndTheModeStaysToo) {
-    disk_.add_file("store/song.nte", "old");
-    std::filesystem::permissions(disk_.path("store/song.nte"), std::filesystem::perms(0640));
-    std::filesystem::create_symlink("store/song.nte", disk_.path("song.nte"));
-    ASSERT_TRUE(disk_.files.replace_file(disk_.path("song.nte"), "new"));
-    EXPECT_TRUE(std::filesystem::is_symlink(disk_.path("song.nte")));
-    EXPECT_EQ(*disk_.files.read_file(disk_.path("store/song.nte"), 100), "new");
-    EXPECT_EQ(std::filesystem::status(disk_.path("store/song.nte")).permissions(),
-              std::filesystem::perms(0640));
-}
-
-// Shared memory is a file system of its own on every Linux machine.
-TEST_F(PosixFiles, MovingToAnotherVolumeCopiesComparesAndOnlyThenRemoves) {
-    const std::string other = "/dev/shm/zephyne-move-" + std::to_string(::getpid());
-    struct stat here {};
-    struct stat there {};
-    if (::mkdir(other.c_str(), 0700) != 0 || ::stat(other.c_str(), &there) != 0 ||
-        ::stat(disk_.root.c_str(), &here) != 0 || here.st_dev == there.st_dev) {
-        GTEST_SKIP() << "there is no second volume";
-    }
-    const std::string notes(700'000, 'n');
-    disk_.add_file("song.mid", notes);
-    EXPECT_TRUE(disk_.files.move_file(disk_.path("song.mid"), other + "/Song.mid"));
-    EXPECT_FALSE(std::filesystem::exists(disk_.path("song.mid")));
-    EXPECT_EQ(*disk_.files.read_file(other + "/Song.mid", 1'000'000), notes);
-
-    disk_.add_file("song.mid", "another");
-    EXPECT_EQ(disk_.files.move_file(disk_.path("song.mid"), other + "/SONG.MID").error().kind,
-              FileErrorKind::already_exists);
-    EXPECT_EQ(*disk_.files.read_file(disk_.path("song.mid"), 100), "another");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(other), {}), 1);
-    std::filesystem::remove_all(other);
-}
-
-TEST_F(PosixFiles, FullDiskLeavesTheOldFileAndNothingBesideIt) {
-    disk_.add_file("song.nte", "old");
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const auto old_action = ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{1000, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    const auto replaced = disk_.files.replace_file(disk_.path("song.nte"), std::string(2000, 'b'));
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    ::signal(SIGXFSZ, old_action);
-    ASSERT_FALSE(replaced);
-    EXPECT_EQ(replaced.error().description, "Disk full");
-    EXPECT_EQ(*disk_.files.read_file(disk_.path("song.nte"), 100), "old");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(disk_.root), {}), 1);
-}
-
 TEST_F(PosixFiles, HomeAndSystemLeadTheVolumes) {
     const auto volumes = disk_.files.volumes();
     ASSERT_GE(volumes.size(), 2U);
@@ -503,72 +307,6 @@ TEST(MemoryFileSystem, FaultsComeWhereTheyWereOrdered) {
     EXPECT_FALSE((*file)->write("two "));
     EXPECT_TRUE((*file)->write("three"));
     EXPECT_EQ(files.contents("new"), "one three");
-}
-
-// "name", or "name/" for a folder, sorted.
-Names members(const FileSystem& files, const std::string& folder) {
-    const auto reader = files.read_folder(folder);
-    if (!reader) return {"(" + reader.error().description + ")"};
-    Names names;
-    while (const auto member = (*reader)->next()) {
-        names.push_back(std::string(member->name) +
-                        (member->kind == MemberKind::folder ? "/" : ""));
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-TYPED_TEST(Files, FolderIsReadMemberByMember) {
-    this->world_.add_file("song.mid", "");
-    this->world_.add_file("Folder/inner.mid", "");
-    this->world_.add_pipe("pipe.mid");
-    this->world_.add_dangling_link("link.mid");
-    EXPECT_EQ(members(this->world_.files, this->world_.root), (Names{"Folder/", "song.mid"}));
-    EXPECT_EQ(members(this->world_.files, this->world_.path("folder")), Names{"inner.mid"});
-    EXPECT_EQ(members(this->world_.files, this->world_.path("song.mid")),
-              Names{"(Path not found)"});
-
-    const auto identity = [&](const std::string& name) {
-        return this->world_.files.identify_folder(this->world_.path(name));
-    };
-    EXPECT_EQ(*identity("Folder"), *identity("FOLDER/../Folder"));
-    EXPECT_EQ(identity("Folder")->volume, identity(".")->volume);
-    EXPECT_NE(identity("Folder")->number, identity(".")->number);
-    EXPECT_FALSE(identity("song.mid"));
-    EXPECT_FALSE(identity("missing"));
-}
-
-TEST_F(PosixFiles, ReadingAFolderFollowsNoLinkToAFolderAndNoneToAnotherVolume) {
-    disk_.add_file("store/waltz.mid", "notes");
-    disk_.add_file("store/.hidden.mid", "");
-    for (const auto& [link, target] :
-         std::vector<std::pair<const char*, const char*>>{{"waltz.mid", "store/waltz.mid"},
-                                                          {"Linked", "store"},
-                                                          {"Loop", "."},
-                                                          {"far.mid", "/proc/version"}}) {
-        std::filesystem::create_symlink(target, disk_.path(link));
-    }
-    EXPECT_EQ(members(disk_.files, disk_.root), (Names{"store/", "waltz.mid"}));
-    EXPECT_EQ(members(disk_.files, disk_.path("store")), Names{"waltz.mid"});
-    EXPECT_EQ(*disk_.files.identify_folder(disk_.path("Linked")),
-              *disk_.files.identify_folder(disk_.path("store")));
-}
-
-TEST_F(PosixFiles, FolderOnAnotherVolumeIsKnownBeforeItIsEntered) {
-    const auto here = disk_.files.identify_folder("/");
-    const auto kernel = disk_.files.identify_folder("/proc");
-    ASSERT_TRUE(here && kernel);
-    EXPECT_NE(here->volume, kernel->volume);
-
-    disk_.add_folder("mounted");
-    const auto before = disk_.files.identify_folder(disk_.path("mounted"));
-    if (::mount("none", disk_.path("mounted").c_str(), "tmpfs", 0, nullptr) != 0) {
-        GTEST_SKIP() << "mounting is not permitted here: " << std::strerror(errno);
-    }
-    const auto after = disk_.files.identify_folder(disk_.path("mounted"));
-    ::umount(disk_.path("mounted").c_str());
-    EXPECT_EQ(before->volume, disk_.files.identify_folder(disk_.root)->volume);
-    EXPECT_NE(after->volume, before->volume);
 }
 
 }  // namespace

@@ -56,6 +56,7 @@ void wait_until_ready(const SynthesizerEngine& engine) {
 class BackendTest : public testing::Test {
   protected:
     BackendTest() {
+        engine_.begin_to_load();
         wait_until_ready(engine_);
         backend_.on_finished = [this] {
             EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
@@ -285,6 +286,7 @@ TEST(SequencerBackend, PlaysToItsEndInRealTimeOnTheSilentOutput) {
     const SteadyClock clock;
     Scheduler scheduler(clock);
     SynthesizerEngine engine(scheduler, {}, make_audio_output("null"));
+    engine.begin_to_load();
     SequencerBackend backend(scheduler, engine);
     int finished = 0;
     backend.on_finished = [&] { ++finished; };

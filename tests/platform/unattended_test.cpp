@@ -31,6 +31,7 @@ class Unattended : public testing::TestWithParam<std::string> {
     Unattended() {
         if (!form_.Dir1.set_path(GetParam())) return;
         output_.at_once = frame_at_millisecond(200);  // a reset sequence is waited for on the spot
+        synthesizer_.begin_to_load();
         while (!synthesizer_.ready()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
         program_.folders.own = ZEPHYNE_DATA;
         program_.ResetFilePresent = true;

@@ -99,9 +99,10 @@ TEST_F(DriveSearchWindowTest, ListsTheSongsOfTheDriveAndOfEachNameTheFirstFolder
 
     world.settings().Lowercase = 1;
     world.settings().AllowWav = 1;
+    world.files.add_file("/stick/A.WAV");
     open([&](Form10& f) {
         f.Command2.click();
-        EXPECT_EQ(lines(f.List3), (Log{"A.wav|/stick/", "B.mid|/stick/b/a|/",
+        EXPECT_EQ(lines(f.List3), (Log{"A.WAV|/stick/", "a.wav|/stick/", "B.mid|/stick/b/a|/",
                                        "Rag.rmi|/stick/b/deep/", "Waltz.mid|/stick/a/"}));
         f.Drive1.choose(1);
         f.Command2.click();

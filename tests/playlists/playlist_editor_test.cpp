@@ -150,6 +150,38 @@ TEST_F(PlaylistEditorTest, ListsWhatTheSettingsAllowAndSkipsWhatNoLineCanHold) {
     EXPECT_EQ(world.open_song(), "MYSONG.MID");
 }
 
+TEST_F(PlaylistEditorTest, FilesThatLookAlikeInTheFolderAreBothAddedAndBothPlay) {
+    world.settings().Lowercase = 1;
+    world.settings().Mode = PlayMode::Alpha;
+    for (const char* song : {"RAG.MID", "rag.mid", "Z.MID"}) {
+        world.files.add_file("/odd/" + std::string(song));
+    }
+    edit([&](Form9& form) {
+        go_to(form, "/odd");
+        EXPECT_EQ(World::names(form.List1), (Log{"Rag.mid", "Rag.mid", "Z.mid"}));
+        form.List1.click(1);
+        form.Command2.click();
+        EXPECT_EQ(world.lines(), Log{"rag.mid|/odd/"}) << "alone it needs its real name, too";
+        form.Command7.click();
+        EXPECT_EQ(world.lines(), (Log{"RAG.MID|/odd/", "rag.mid|/odd/", "Z.mid|/odd/"}));
+    });
+    EXPECT_EQ(world.open_song(), "RAG.MID");
+    world.form.Command9.click();
+    EXPECT_EQ(world.open_song(), "rag.mid");
+    world.form.Command9.click();
+    EXPECT_EQ(world.open_song(), "Z.MID");
+}
+
+TEST_F(PlaylistEditorTest, NextBehindTheEditorPlaysNothingButWhatItsRowSays) {
+    world.load("Zephyne Playlist\na.mid|/music/\nb.mid|/music/\nx.mid|/other/");
+    edit([&](Form9& form) {
+        form.List2.click(0);
+        form.Command3.click();
+        world.form.Command9.click();
+        EXPECT_EQ(world.open_song(), "") << "the row of a.mid has become that of b.mid";
+    });
+}
+
 TEST_F(PlaylistEditorTest, BeginsWhereItWasLeftInTheSameRun) {
     edit([&](Form9& form) {
         EXPECT_EQ(form.Dir1.path(), "/music");
@@ -278,6 +310,18 @@ TEST_F(PlaylistEditorTest, AnAuditionIsGivenUpWhenTheUserActsWhileTheSynthesizer
             fresh.expect_flags_at_rest();
         }
     }
+}
+
+TEST_F(PlaylistEditorTest, EndingTheProgramWhileTheSynthesizerIsResetAuditionsNothing) {
+    world.settings().AutoReset = 1;
+    world.windows.on_modal = [&](Form& form) {
+        auto& editor = dynamic_cast<Form9&>(form);
+        editor.List1.click(0);
+        world.pump.on_pump = [&] { world.program.Ending = true; };
+        editor.MMControl1.press(TransportKey::play);
+        EXPECT_EQ(world.audition.open_song(), "");
+    };
+    world.form.Command13.click();
 }
 
 TEST_F(PlaylistEditorTest, EndingTheProgramWhileItIsOpenStartsNothing) {

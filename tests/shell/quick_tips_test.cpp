@@ -115,6 +115,7 @@ TEST_F(Tips, LongTipsMakeTheWindowGrow) {
     windows.height_of_text = 40'000;
     next();
     EXPECT_EQ(window()->place().height, windows.screen().height) << "its keys stay on the screen";
+    EXPECT_EQ(window()->place().top, 0);
     windows.height_of_text = 300;
     next();
     EXPECT_LT(window()->place().height, high - 2000);
@@ -152,7 +153,7 @@ TEST_F(Tips, AreTheUsersOwnCopyOnceTheyAreUsed) {
 }
 
 TEST_F(Tips, OnlyOkKeepsTheWishForTipsAtTheStart) {
-    write("[TIP]\r\nSTART= T \r\n");
+    write("[TIP]\r\nSTART=\" T \"\r\n");
     open();
     EXPECT_EQ(window()->show_tip.value(), 1);
     window()->show_tip.click();

@@ -100,6 +100,16 @@ TEST_F(RecentSongsInTheTray, ASongThatIsNotListedIsAnUnknownError) {
     world.expect_window_unlocked();
 }
 
+TEST_F(RecentSongsInTheTray, APauseThatBeginsBehindTheMessageUnlocksTheWholeWindow) {
+    world.files.add_file("/other/noise.wav");
+    remember("/other/", "noise.wav");
+    start(PlayMode::Alpha);
+    world.settings().AutoDelay = 1;
+    world.messages.while_open = [&] { world.run_for(190'000); };
+    world.tray.mnuSong(5).click();
+    world.expect_window_unlocked();
+}
+
 TEST_F(RecentSongsInTheTray, NothingHappensWhileAnotherSongIsOnItsWay) {
     remember("/music/", "B.mid");
     start(PlayMode::Alpha);
@@ -139,6 +149,25 @@ TEST_F(RecentSongsInTheTray, OfEqualNamesInAPlaylistTheOneOfTheFolderIsSelected)
     EXPECT_EQ(world.program.CurrentSongPath, "/other/B.mid");
     EXPECT_EQ(World::names(world.form.List1),
               (std::vector<std::string>{"A.mid|/music/", "B.mid|/music/"}));
+}
+
+TEST_F(RecentSongsInTheTray, InAPlaylistNamesThatDifferOnlyInCaseAreTwoSongs) {
+    world.files.add_file("/other/x.MID");
+    world.open_playlist({"X.mid|/other/", "x.MID|/other/"});
+    remember("/other/", "x.MID");
+    world.tray.mnuSong(5).click();
+    EXPECT_EQ(world.form.File1.selected(), 1U);
+    EXPECT_EQ(world.open_song(), "x.MID");
+}
+
+// In the editor the entry lines change while the window behind it still shows the old list.
+TEST_F(RecentSongsInTheTray, ASongPlaysWhileItsPlaylistIsBeingEdited) {
+    world.open_playlist({"X.mid|/other/", "Y.mid|/other/"});
+    world.form.List3.clear();
+    remember("/other/", "Y.mid");
+    world.tray.mnuSong(5).click();
+    EXPECT_EQ(world.open_song(), "Y.mid");
+    EXPECT_TRUE(world.form.List1.empty());
 }
 
 TEST_F(RecentSongsInTheTray, ASongHandedOverMeanwhileWaitsItsTurn) {

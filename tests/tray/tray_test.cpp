@@ -6,7 +6,13 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPixmap>
+#include <QPointer>
+#include <QScreen>
+#include <QSystemTrayIcon>
+#include <QTextDocument>
+#include <QWindow>
 #include <optional>
 #include <string>
 #include <vector>
@@ -93,6 +99,7 @@ TEST_F(TrayIcon, ReportsEachReleaseOfTheLeftButtonAndOpensTheMenuWithTheRight) {
     ASSERT_TRUE(wait_until([] { return open_menu() != nullptr; }));
     area.show_menu();
     EXPECT_EQ(open_menu()->defaultAction()->text(), "Show");
+    EXPECT_TRUE(wait_until([this] { return !events.empty(); }));
     EXPECT_EQ(events, std::vector<std::uint32_t>{MouseMessage::RightButtonUp});
     choose(open_menu(), "Stop && go");
     EXPECT_TRUE(wait_until([this] { return chosen == "first"; }));
@@ -116,6 +123,12 @@ TEST_F(TrayIcon, TheOpenMenuFollowsThePlayerAndOutlivesItsHost) {
     }
     EXPECT_EQ(entries, (QStringList{"Stop && go", "", "Hidden", "Play", "Off"}));
 
+    const QRect screen = open_menu()->screen()->availableGeometry();
+    open_menu()->move(screen.bottomRight() - open_menu()->rect().bottomRight());
+    hidden.caption = "A song with quite a long name.mid";
+    area.notify_icon(NotifyCommand::modify, record);
+    EXPECT_TRUE(screen.contains(open_menu()->geometry())) << "where it has grown";
+
     host.reset();
     EXPECT_TRUE(wait_until([this] { return !area.has_host(); }));
     choose(open_menu(), "Play");
@@ -125,6 +138,32 @@ TEST_F(TrayIcon, TheOpenMenuFollowsThePlayerAndOutlivesItsHost) {
     ASSERT_TRUE(wait_until([] { return open_menu() != nullptr; }));
     area.notify_icon(NotifyCommand::remove, record);
     EXPECT_EQ(open_menu(), nullptr);
+}
+
+TEST_F(TrayIcon, MayBeTakenAwayInAnswerToItsClick) {
+    const TrayHost host;
+    add();
+    ASSERT_TRUE(reached_by_click());
+    area.notify_icon(NotifyCommand::modify, record);
+    area.on_message = [&](auto...) { area.notify_icon(NotifyCommand::remove, record); };
+    for (const QPointer<QWidget> icon : QApplication::topLevelWidgets()) {
+        if (!icon->inherits("QSystemTrayIconSys")) continue;
+        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton,
+                            Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(icon->windowHandle(), &release);
+        EXPECT_TRUE(icon) << "its event is still being handled";
+        EXPECT_TRUE(wait_until([&] { return !icon; }));
+        return;
+    }
+    FAIL() << "no icon";
+}
+
+TEST_F(TrayIcon, ShowsNoNameAsMarkup) {
+    const TrayHost host;
+    record.set_tip("Zephyne - Playing <b>&lt;.mid");
+    area.notify_icon(NotifyCommand::add, record);
+    const QString tip = area.findChild<QSystemTrayIcon*>()->toolTip();
+    EXPECT_FALSE(Qt::mightBeRichText(tip)) << tip.toStdString();
 }
 
 TEST_F(TrayIcon, IsReachedWhileAWindowIsModal) {

@@ -29,6 +29,9 @@ constexpr auto rest_after_move = 150ms;
 // What a window manager needs between showing a window and changing its state.
 constexpr auto settle_after_show = 50ms;
 
+// A screen shows no more than some sixty pictures a second.
+constexpr qint64 between_pictures = 16;  // ms
+
 constexpr Qt::WindowFlags main_window = Qt::Window | Qt::WindowTitleHint |
                                         Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                         Qt::WindowCloseButtonHint;
@@ -85,6 +88,13 @@ FormWindow::FormWindow(Form& form, double factor)
     settling_.setSingleShot(true);
     settling_.setInterval(settle_after_show);
     connect(&settling_, &QTimer::timeout, this, &FormWindow::settled);
+    painting_.setSingleShot(true);
+    painting_.setTimerType(Qt::PreciseTimer);
+    connect(&painting_, &QTimer::timeout, this, [this] {
+        painted_.invalidate();
+        QEvent request(QEvent::UpdateRequest);
+        QCoreApplication::sendEvent(this, &request);
+    });
     hiding_.setSingleShot(true);
     connect(&hiding_, &QTimer::timeout, this, &QWidget::hide);
 
@@ -411,7 +421,20 @@ void FormWindow::keyReleaseEvent(QKeyEvent* event) {
     report_released_key(*event);
 }
 
+// What changes more often is painted with the next picture. Qt asks once for each picture, and not
+// again until it has been painted.
+bool FormWindow::painting_waits() {
+    if (painting_.isActive()) return true;
+    if (painted_.isValid() && !painted_.hasExpired(between_pictures)) {
+        painting_.start(static_cast<int>(between_pictures - painted_.elapsed()));
+        return true;
+    }
+    painted_.start();
+    return false;
+}
+
 bool FormWindow::event(QEvent* event) {
+    if (event->type() == QEvent::UpdateRequest && painting_waits()) return true;
     if (event->type() == QEvent::WindowActivate && attached_) form_.user_activated();
     return QWidget::event(event);
 }

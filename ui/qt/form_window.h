@@ -11,6 +11,7 @@
 #include "ui/qt/mirror.h"
 #include "ui/qt/pixels.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 #include <cstdint>
@@ -82,6 +83,7 @@ class FormWindow final : public QWidget, public ControlObserver {
     void show_or_hide();
     void settled();
     void activate_shown();
+    bool painting_waits();
     void take_state();
     void report_place();
     QSize client_size() const;
@@ -95,6 +97,8 @@ class FormWindow final : public QWidget, public ControlObserver {
     std::vector<const Mirror*> stops_;  // in the order of Tab
     QTimer moved_;                      // runs out when the window has come to rest
     QTimer settling_;                   // runs while the window manager takes the window up
+    QTimer painting_;                   // runs while painting waits for the next picture
+    QElapsedTimer painted_;             // since the last picture
     QTimer hiding_;                     // hides it when the present step is over
     std::optional<QPoint> placed_at_;   // where the form wanted the window last
     std::int32_t extended_style_;

@@ -29,6 +29,8 @@ class ListBoxRows final : public Rows {
         return true;
     }
 
+    bool all_chosen() override { return list_.choose_all(); }
+
   private:
     ListBox& list_;
 };

@@ -66,7 +66,6 @@ QWidget* window_below() {
 void take_choice(QFileDialog& dialog, const FileChoice& choice) {
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilters(name_filters(choice.filter));
-    dialog.setDefaultSuffix(QString::fromStdString(choice.default_extension));
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
 }
 
@@ -92,13 +91,20 @@ std::optional<std::string> QtFileDialogs::open_file(const FileChoice& choice) {
     QFileDialog dialog(window_below(), QStringLiteral("Open"));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     take_choice(dialog, choice);
-    return run(dialog);
+    // Not the dialog's own default suffix: that would hide a file that really has none.
+    auto path = run(dialog);
+    if (path && !QFile::exists(QFile::decodeName(path->c_str())) &&
+        path->find('.', path->rfind('/') + 1) == std::string::npos) {
+        *path += choice.default_extension;
+    }
+    return path;
 }
 
 std::optional<std::string> QtFileDialogs::save_file(const FileChoice& choice) {
     QFileDialog dialog(window_below(), QStringLiteral("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     take_choice(dialog, choice);
+    dialog.setDefaultSuffix(QString::fromStdString(choice.default_extension));
     return run(dialog);
 }
 

@@ -160,6 +160,7 @@ void RowsView::keyPressEvent(QKeyEvent* event) {
         if (before.isValid()) rows_.opened(static_cast<std::size_t>(before.row()));
         return;
     }
+    if (event->matches(QKeySequence::SelectAll) && rows_.all_chosen()) return;
     const ClickWith key = key_held(*event);
     const bool chooses = event->key() == Qt::Key_Space && before.isValid() &&
                          rows_.chosen(static_cast<std::size_t>(before.row()), key);

@@ -41,6 +41,9 @@ class Rows : public QAbstractListModel {
     // Space; false where that is a letter like others.
     virtual bool chosen(std::size_t /*row*/, ClickWith /*key*/) { return false; }
 
+    // Ctrl+A; false where no more than one row can be selected.
+    virtual bool all_chosen() { return false; }
+
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
