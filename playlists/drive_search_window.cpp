@@ -2,6 +2,7 @@
 
 #include "core/sheets/form10.h"
 #include "core/text/numbers.h"
+#include "core/window_placing.h"
 #include "engine/listed_songs.h"
 
 #include <array>
@@ -58,9 +59,8 @@ void DriveSearchWindow::show(EditedPlaylist& playlist) {
 
 void DriveSearchWindow::Form_Load(Opened& window) {
     Form10& f = window.form;
-    const TwipsSize screen = windows_.screen();
     f.load();
-    f.move_to((screen.width - f.place().width) / 2, (screen.height - f.place().height) / 2);
+    centre(f, windows_);
     f.Label1.set_caption(kInstructions);
     f.Command1.set_on_click([this, &window] { Command1_Click(window); });
     f.Command2.set_on_click([this, &window] { Command2_Click(window); });

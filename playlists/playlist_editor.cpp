@@ -1,5 +1,7 @@
 #include "playlists/playlist_editor.h"
 
+#include "core/window_placing.h"
+
 #include <string_view>
 #include <utility>
 
@@ -48,10 +50,8 @@ void PlaylistEditor::Command13_Click() {
 void PlaylistEditor::Form_Load(Opened& editor) {
     Form9& f = editor.form;
     const Settings& settings = stage_.settings();
-    const TwipsSize screen = windows_.screen();
     f.load();
-    f.move_to(settings.F11Left != 0 ? settings.F11Left : (screen.width - f.place().width) / 2,
-              settings.F11Top != 0 ? settings.F11Top : (screen.height - f.place().height) / 2);
+    put_in_place(f, windows_, {settings.F11Left, settings.F11Top}, centred(f, windows_));
     f.on_activate = [this, &editor] { Form_Activate(editor); };
     f.on_unload = [this, &editor] { Form_Unload(editor); };
     f.List1.on_click = [&editor] { editor.audition.List1_Click(); };

@@ -1,5 +1,7 @@
 #include "shell/about_box.h"
 
+#include "core/window_placing.h"
+
 #include <utility>
 
 namespace zephyne {
@@ -20,10 +22,8 @@ void AboutBox::show() {
 
 void AboutBox::Form_Load(Form5& form) {
     const Settings& settings = program_.settings;
-    const TwipsSize screen = windows_.screen();
     form.load();
-    form.move_to(settings.F5Left != 0 ? settings.F5Left : (screen.width - form.place().width) / 2,
-                 settings.F5Top != 0 ? settings.F5Top : (screen.height - form.place().height) / 2);
+    put_in_place(form, windows_, {settings.F5Left, settings.F5Top}, centred(form, windows_));
     form.Panel1.set_caption("ZEPHYNE");
     form.Panel2.set_caption("Version " + facts_.version);
     form.Panel3.set_caption("A jukebox for people who collect MIDI music.");

@@ -1,6 +1,7 @@
 #include "shell/input_box.h"
 
 #include "core/sheets/txtbox.h"
+#include "core/window_placing.h"
 
 #include <utility>
 
@@ -26,8 +27,7 @@ std::string InputBox::ask(std::string prompt, std::string title, std::string pro
     box.on_unload = [&] { program_.CurrentForm = FormNumber::Main; };
 
     windows_.create(box);
-    const TwipsSize screen = windows_.screen();
-    box.move_to((screen.width - box.place().width) / 2, (screen.height - box.place().height) / 2);
+    centre(box, windows_);
     windows_.run_modal(box);
     windows_.destroy(box);
     return answer;

@@ -2,6 +2,7 @@
 
 #include "core/sheets/dlgbox.h"
 #include "core/text/utf8.h"
+#include "core/window_placing.h"
 
 #include <algorithm>
 #include <utility>
@@ -77,8 +78,7 @@ Answer MessageBox::ShowDlgMessage(std::string text, std::int16_t flags, std::str
     show_buttons(box, question);
     windows_.create(box);
     grow_for_text(box, windows_.text_height(box.Label1));
-    const TwipsSize screen = windows_.screen();
-    box.move_to((screen.width - box.place().width) / 2, (screen.height - box.place().height) / 2);
+    centre(box, windows_);
     if (program_.settings.Beeps == 1) beeper_.beep();
     box.Timer1.set_enabled(true);
     windows_.run_modal(box);

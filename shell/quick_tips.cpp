@@ -1,6 +1,7 @@
 #include "shell/quick_tips.h"
 
 #include "core/text/numbers.h"
+#include "core/window_placing.h"
 
 #include <algorithm>
 #include <cmath>
@@ -135,9 +136,7 @@ void QuickTips::Form_Load(Quick_Tip& form) {
 
     windows_.create(form);
     tell(ShowNextTip());
-    const TwipsSize screen = windows_.screen();
-    form.move_to((screen.width - form.place().width) / 2,
-                 (screen.height - form.place().height) / 2);
+    centre(form, windows_);
     windows_.set_extended_style(form, stage_.settings().ShowBar == 1
                                           ? stage_.program.TaskbarExStyle
                                           : stage_.program.NormalExStyle);

@@ -2,6 +2,7 @@
 
 #include "core/text/letter_case.h"
 #include "core/text/numbers.h"
+#include "core/window_placing.h"
 #include "songdata/soft_karaoke.h"
 #include "songdata/text_joining.h"
 
@@ -72,10 +73,8 @@ void InformationWindow::show() {
 
 void InformationWindow::Form_Load(Form3& form) {
     const Settings& settings = stage_.settings();
-    const TwipsSize screen = windows_.screen();
     form.load();
-    form.move_to(settings.F3Left != 0 ? settings.F3Left : (screen.width - form.place().width) / 2,
-                 settings.F3Top != 0 ? settings.F3Top : (screen.height - form.place().height) / 2);
+    put_in_place(form, windows_, {settings.F3Left, settings.F3Top}, centred(form, windows_));
     form.on_activate = [this, &form] { Form_Activate(form); };
     form.on_unload = [this, &form] { Form_Unload(form); };
     form.Command1.set_on_click([&form] { form.request_unload(CloseReason::program); });

@@ -1,6 +1,7 @@
 #include "songdata/move_file.h"
 
 #include "core/text/utf8.h"
+#include "core/window_placing.h"
 #include "songdata/file_commands.h"
 
 #include <utility>
@@ -49,8 +50,8 @@ void MoveFile::show() {
     form_ = &form;
     form.load();
     const Place& owner = stage_.form.place();
-    form.move_to(settings.F6Left != 0 ? settings.F6Left : owner.left + 600,
-                 settings.F6Top != 0 ? settings.F6Top : owner.top + 600);
+    put_in_place(form, windows_, {settings.F6Left, settings.F6Top},
+                 {owner.left + 600, owner.top + 600});
     if (!settings.MoveToDir.empty()) {
         (void)form.Drive1.set_drive_of(settings.MoveToDir);
         (void)form.Dir1.set_path(settings.MoveToDir);

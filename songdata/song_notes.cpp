@@ -2,6 +2,7 @@
 
 #include "core/sidecar.h"
 #include "core/text/utf8.h"
+#include "core/window_placing.h"
 
 #include <utility>
 
@@ -45,8 +46,9 @@ void SongNotes::Form_Load() {
     Form4& f = *form_;
     const Settings& settings = stage_.settings();
     f.load();
-    f.move_to(settings.F4Left != 0 ? settings.F4Left : stage_.form.place().left + 900,
-              settings.F4Top != 0 ? settings.F4Top : stage_.form.place().top + 900);
+    const Place& owner = stage_.form.place();
+    put_in_place(f, windows_, {settings.F4Left, settings.F4Top},
+                 {owner.left + 900, owner.top + 900});
     f.Label2.set_caption(stage_.program.CurrentSongName + " ");
     song_path_ = stage_.program.CurrentSongPath;
     const Sidecar file = find_sidecar(stage_.files, song_path_, ".nte");

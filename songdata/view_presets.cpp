@@ -1,6 +1,7 @@
 #include "songdata/view_presets.h"
 
 #include "core/sheets/form8.h"
+#include "core/window_placing.h"
 
 namespace zephyne {
 namespace {
@@ -38,8 +39,8 @@ void ViewPresets::Command16_Click() {
     Form8 form;
     form.load();
     const Place& owner = stage_.form.place();
-    form.move_to(settings.F8Left != 0 ? settings.F8Left : owner.left + 420,
-                 settings.F8Top != 0 ? settings.F8Top : owner.top + 420);
+    put_in_place(form, windows_, {settings.F8Left, settings.F8Top},
+                 {owner.left + 420, owner.top + 420});
     fill(form, settings);
     form.Command1.set_on_click([&] {
         store(form, settings);

@@ -15,12 +15,14 @@ class KillCommands {
         : stage_(stage), unload_notes_(unload_notes) {}
 
     // Both ask first, refuse in playlist-based mode, and pass over files that cannot be removed.
+    // The folder is that of the question, even if a song of another one is chosen meanwhile.
     void kill_notes() const;
     void kill_volumes() const;
 
   private:
-    bool may_kill(const std::string& question) const;
-    void kill(const std::string& extension) const;
+    // `before` runs between the answer Yes and the deletion.
+    void kill(const std::string& extension, const std::string& question,
+              const std::function<void()>& before) const;
 
     Stage& stage_;
     const std::function<void()>& unload_notes_;

@@ -1,5 +1,7 @@
 #include "ui/main_window_layout.h"
 
+#include "core/window_placing.h"
+
 #include <array>
 
 namespace zephyne {
@@ -79,15 +81,7 @@ std::vector<Tip> tips(Form1& f) {
 }  // namespace
 
 MainWindowLayout::MainWindowLayout(Stage& stage, WindowHost& windows)
-    : stage_(stage), windows_(windows) {
-    stage_.form.Command11.set_on_click([this] { Command11_Click(); });
-}
-
-// "Hide": to the tray icon, or to the taskbar button where there is one.
-void MainWindowLayout::Command11_Click() {
-    if (stage_.settings().ShowBar == 0) return put_away();
-    stage_.form.set_state(WindowState::minimized);
-}
+    : stage_(stage), windows_(windows) {}
 
 void MainWindowLayout::wide() {
     Form1& f = stage_.form;
@@ -214,9 +208,7 @@ void MainWindowLayout::hidenbar() {
 }
 
 void MainWindowLayout::centre() {
-    const TwipsSize screen = windows_.screen();
-    Form1& f = stage_.form;
-    f.move_to((screen.width - f.place().width) / 2, (screen.height - f.place().height) / 2);
+    zephyne::centre(stage_.form, windows_);
 }
 
 void MainWindowLayout::Form_Resize() {

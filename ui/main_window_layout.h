@@ -37,7 +37,6 @@ class MainWindowLayout {
     void put_away();
 
   private:
-    void Command11_Click();
     void show_with_style(std::int32_t style);
 
     Stage& stage_;

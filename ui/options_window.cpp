@@ -1,5 +1,6 @@
 #include "ui/options_window.h"
 
+#include "core/window_placing.h"
 #include "ui/options_loading.h"
 #include "ui/options_ok.h"
 
@@ -58,9 +59,7 @@ void OptionsWindow::Form_Load() {
               .taskbar = touched_by_loading.taskbar,
               .tray = touched_by_loading.tray};
 
-    const TwipsSize screen = windows_.screen();
-    form.move_to(settings.F2Left != 0 ? settings.F2Left : (screen.width - form.place().width) / 2,
-                 settings.F2Top != 0 ? settings.F2Top : (screen.height - form.place().height) / 2);
+    put_in_place(form, windows_, {settings.F2Left, settings.F2Top}, centred(form, windows_));
     windows_.create(form);
 }
 

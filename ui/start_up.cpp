@@ -1,6 +1,7 @@
 #include "ui/start_up.h"
 
 #include "core/settings_file.h"
+#include "core/window_placing.h"
 
 #include <algorithm>
 #include <utility>
@@ -132,9 +133,8 @@ Started StartUp::start_queue(const std::string& song) {
 void StartUp::place_window() {
     const Settings& settings = stage_.settings();
     Form1& f = stage_.form;
-    f.move_to(settings.Left != 0 ? settings.Left : f.place().left,
-              settings.Top != 0 ? settings.Top : f.place().top);
-    if (settings.Left == 0 || settings.Top == 0) layout_.centre();
+    if (settings.Left == 0 || settings.Top == 0) return layout_.centre();
+    put_in_place(f, windows_, {settings.Left, settings.Top}, {f.place().left, f.place().top});
 }
 
 void StartUp::start_normally() {

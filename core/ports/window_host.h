@@ -3,11 +3,13 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace zephyne {
 
 class Form;
 class Label;
+struct Place;
 
 struct TwipsSize {
     int width = 0;
@@ -32,8 +34,11 @@ class WindowHost {
     // Shows the form above all others and handles events until it is hidden or unloaded.
     virtual void run_modal(Form& form) = 0;
 
-    // The screen's free area, in twips.
+    // The size of the first screen's free area, in twips.
     virtual TwipsSize screen() const = 0;
+
+    // The free areas of all screens, the first one first, in twips.
+    virtual std::vector<Place> screens() const = 0;
 
     // The extended style of a form's window; takes effect when the window is shown next.
     virtual std::int32_t extended_style(const Form& form) const = 0;

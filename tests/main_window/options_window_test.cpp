@@ -176,6 +176,17 @@ TEST(OptionsWindow, TheKillCommandsAskFirstAndDeleteOnlyTheirKind) {
         EXPECT_EQ(log.back() == done, row.answer == Answer::yes);
         EXPECT_EQ(kept(world), row.kept);
     }
+    OptionsWorld elsewhere;
+    elsewhere.files.add_file(elsewhere.path("a.nte"));
+    elsewhere.files.add_file("/other/b.nte");
+    elsewhere.messages.while_open = [&] {  // the tray's menu goes to a song of another folder
+        const FlagGuard switching(elsewhere.program.SwitchingSong);
+        ASSERT_TRUE(elsewhere.form.Dir1.set_path("/other"));
+    };
+    elsewhere.open([](Form2& f) { f.Command5.click(); });
+    EXPECT_EQ(kept(elsewhere), "a.mid ") << "the question was about this folder";
+    EXPECT_TRUE(elsewhere.files.exists("/other/b.nte"));
+
     OptionsWorld playlist("Playlist=1\r\n");
     playlist.files.add_file(playlist.path("a.nte"));
     playlist.open([](Form2& f) { f.Command5.click(), f.Command6.click(); });

@@ -92,7 +92,8 @@ TEST(StartUp, TheWindowComesBackToItsPlaceOrToTheMiddle) {
         Place place;
     };
     for (const Row& row : std::vector<Row>{
-             {"Left=300\r\nTop=-450", {300, -450, 9000, 6510}},
+             {"Left=-300\r\nTop=450", {-300, 450, 9000, 6510}},
+             {"Left=300\r\nTop=-450", {300, 0, 9000, 6510}},  // its title bar can be reached
              {"Left=0\r\nTop=450", {5100, 2745, 9000, 6510}},
              {"Left=300\r\nTop=0", {5100, 2745, 9000, 6510}},
              {"Extended=0", {6350, 2745, 6500, 6510}},

@@ -206,6 +206,7 @@ class FakeWindows final : public WindowHost {
         if (on_modal) on_modal(form);
     }
     TwipsSize screen() const override { return {19200, 12000}; }
+    std::vector<Place> screens() const override { return {{0, 0, 19200, 12000}}; }
     std::int32_t extended_style(const Form& form) const override {
         const auto found = styles.find(form.name());
         return found == styles.end() ? 0x100 : found->second;

@@ -236,6 +236,16 @@ TEST_F(MirrorTest, TabFollowsTheNumbersPastWhatIsDisabledOrHidden) {
     EXPECT_EQ(taken(), (Log{"focus inner", "focus area", "focus slider"}));
 }
 
+TEST_F(MirrorTest, TabStaysWithinANarrowWindow) {
+    form.set_place({0, 0, 2900, 4405});  // leaves box, area and ok outside
+    taken();
+    for (int i = 0; i < 4; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(taken(), (Log{"focus line", "focus slider", "focus list", "focus inner"}));
+    form.set_place({0, 0, 6000, 4405});
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(taken(), Log{"focus box"});
+}
+
 TEST_F(MirrorTest, TheFocusIsTheSameForFormAndWindow) {
     form.line.set_focus();
     EXPECT_EQ(QApplication::focusWidget(), widget(form.line));
@@ -329,6 +339,12 @@ TEST_F(MirrorTest, AModalWindowReturnsWhenHiddenClosedOrGone) {
     run_until([&] { question.reset(); });
     settle();
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(MirrorTest, TheCornerOfTheScreenIsAPlaceLikeAnyOther) {
+    SampleForm second;  // whose place is 0, 0, which the window system must be told, too
+    host.create(second);
+    EXPECT_TRUE(host.window_of(second)->testAttribute(Qt::WA_Moved));
 }
 
 TEST_F(MirrorTest, APlaceBetweenPixelsIsNotRoundedBehindTheProgramsBack) {

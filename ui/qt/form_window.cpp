@@ -140,7 +140,7 @@ void FormWindow::set_tab_order() {
 
 void FormWindow::focus_first_stop() {
     const auto first = std::find_if(stops_.begin(), stops_.end(), [](const Mirror* stop) {
-        return stop->control().shown() && stop->control().usable();
+        return stop->on_window() && stop->control().usable();
     });
     if (first != stops_.end()) (*first)->widget()->setFocus(Qt::OtherFocusReason);
 }
@@ -155,6 +155,10 @@ QSize FormWindow::client_size() const {
     return {pixels_.logical(form_.place().width), pixels_.logical(form_.client_height())};
 }
 
+bool FormWindow::holds(const Place& place) const {
+    return place.left < form_.place().width && place.top < form_.client_height();
+}
+
 QPoint FormWindow::position() const {
     return {pixels_.logical(form_.place().left), pixels_.logical(form_.place().top)};
 }
@@ -167,7 +171,7 @@ void FormWindow::take_place() {
     if (client_size() != size() || minimumSize() != size()) setFixedSize(client_size());
     if (position() == placed_at_ || form_.state() != WindowState::normal) return;
     placed_at_ = position();
-    move(placed_at_);
+    move(position());
 }
 
 // A window that is shown again in the same step is not hidden at all, unless its taskbar button
@@ -224,6 +228,7 @@ void FormWindow::property_changed(Property property) {
             break;
         case Property::place:
             take_place();
+            for (const auto& mirror : mirrors_) mirror->show_or_hide();
             break;
         case Property::visible:
             show_or_hide();

@@ -17,6 +17,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace zephyne {
@@ -48,6 +49,7 @@ class FormWindow final : public QWidget, public ControlObserver {
 
     // For mirrors. Paints these device pixels anew.
     void repaint(const QRect& device);
+    bool holds(const Place& place) const;  // whether any of it lies within the client area
     paint::Focus focus_look(const Control& control) const;
     void follow_focus();  // gives Qt's focus to the form's focused control
     void key_used(const QKeyEvent& event);
@@ -98,7 +100,7 @@ class FormWindow final : public QWidget, public ControlObserver {
     QTimer painting_;                   // runs while painting waits for the next picture
     QElapsedTimer painted_;             // since the last picture
     QTimer hiding_;                     // hides it when the present step is over
-    QPoint placed_at_;                  // where the form wanted the window last
+    std::optional<QPoint> placed_at_;   // where the form wanted the window last
     std::int32_t extended_style_;
     std::int32_t shown_style_;  // which the window was shown with
     bool attached_ = true;

@@ -62,7 +62,16 @@ void Mirror::subject_gone() {
 void Mirror::lay_out() {
     if (widget_)
         widget_->setGeometry(window_.pixels().containing(window_.pixels().box(control_.place())));
+    show_or_hide();
     laid_out();
+}
+
+void Mirror::show_or_hide() {
+    if (widget_) widget_->setVisible(on_window());
+}
+
+bool Mirror::on_window() const {
+    return control_.shown() && window_.holds(control_.place());
 }
 
 void Mirror::repaint() {
@@ -81,7 +90,7 @@ void Mirror::property_changed(Property property) {
             lay_out();
             break;
         case Property::visible:
-            if (widget_) widget_->setVisible(control_.shown());
+            show_or_hide();
             break;
         case Property::enabled:
             if (widget_) widget_->setEnabled(control_.usable());

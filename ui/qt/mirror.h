@@ -51,6 +51,12 @@ class Mirror : public QObject, public ControlObserver {
     // Puts the widget where the control is; the window calls it when the scale has changed.
     void lay_out();
 
+    // Shown, and within the window's present size: a narrow window leaves controls outside, which
+    // the keyboard and screen readers must not reach either. The widget is there only then; the
+    // window calls show_or_hide() when it has another size.
+    bool on_window() const;
+    void show_or_hide();
+
     // Asks for the control's part of the window to be painted again.
     void repaint();
 

@@ -60,6 +60,17 @@ TwipsSize QtWindowHost::screen() const {
     return {pixels.twips(free.width()), pixels.twips(free.height())};
 }
 
+std::vector<Place> QtWindowHost::screens() const {
+    const Pixels pixels{factor_, 1};
+    std::vector<Place> areas;
+    for (const QScreen* screen : QGuiApplication::screens()) {  // the primary one first
+        const QRect free = screen->availableGeometry();
+        areas.push_back({pixels.twips(free.x()), pixels.twips(free.y()), pixels.twips(free.width()),
+                         pixels.twips(free.height())});
+    }
+    return areas;
+}
+
 std::int32_t QtWindowHost::extended_style(const Form& form) const {
     const FormWindow* window = window_of(form);
     return window ? window->extended_style() : 0;

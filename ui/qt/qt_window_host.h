@@ -23,6 +23,7 @@ class QtWindowHost final : public WindowHost {
     void destroy(Form& form) override;
     void run_modal(Form& form) override;
     TwipsSize screen() const override;
+    std::vector<Place> screens() const override;
     std::int32_t extended_style(const Form& form) const override;
     void set_extended_style(Form& form, std::int32_t style) override;
     void bring_to_front(Form& form) override;
