@@ -18,15 +18,13 @@ QString without_markup(QString text) {
 
 }  // namespace
 
-QtNotificationArea::QtNotificationArea(std::function<QIcon()> picture, const QString& menu_look)
-    : menu_(menu_look), picture_(std::move(picture)) {}
-
-void QtNotificationArea::make_icon() {
-    icon_ = std::make_unique<QSystemTrayIcon>(picture_());
+QtNotificationArea::QtNotificationArea(const QIcon& icon, const QString& menu_look)
+    : menu_(menu_look) {
+    icon_.setIcon(icon);
     // For a desktop that draws the menu by itself. Where Qt opens it, show_menu() finds it open.
-    icon_->setContextMenu(menu_.widget());
+    icon_.setContextMenu(menu_.widget());
     QObject::connect(
-        icon_.get(), &QSystemTrayIcon::activated, this,
+        &icon_, &QSystemTrayIcon::activated, this,
         [this](QSystemTrayIcon::ActivationReason reason) { activated(reason); },
         Qt::QueuedConnection);
 }
@@ -34,19 +32,18 @@ void QtNotificationArea::make_icon() {
 void QtNotificationArea::notify_icon(NotifyCommand command, const NotifyIconData& data) {
     if (command == NotifyCommand::remove) {
         menu_.close();
-        if (icon_) icon_->hide();
+        icon_.hide();
         return;
     }
-    if (!icon_) make_icon();
     if ((data.uFlags & NotifyIconData::message_valid) != 0) {
         callback_message_ = data.uCallbackMessage;
     }
     if ((data.uFlags & NotifyIconData::tip_valid) != 0) {
         const QString tip = without_markup(QString::fromStdString(data.tip()));
-        if (tip != icon_->toolTip()) icon_->setToolTip(tip);
+        if (tip != icon_.toolTip()) icon_.setToolTip(tip);
     }
     menu_.bring_up_to_date();
-    if (command == NotifyCommand::add) icon_->show();
+    if (command == NotifyCommand::add) icon_.show();
     watch_icon_window();
 }
 

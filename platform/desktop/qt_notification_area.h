@@ -6,16 +6,13 @@
 #include "platform/desktop/qt_popup_menu.h"
 
 #include <QSystemTrayIcon>
-#include <functional>
-#include <memory>
 
 namespace zephyne {
 
 class QtNotificationArea final : public QObject, public NotificationArea {
   public:
     // menu_look: a style sheet for the menu. Needs a QApplication.
-    // The picture of the icon is asked for when the icon first goes up.
-    QtNotificationArea(std::function<QIcon()> picture, const QString& menu_look);
+    QtNotificationArea(const QIcon& icon, const QString& menu_look);
 
     void notify_icon(NotifyCommand command, const NotifyIconData& data) override;
     void set_menu(PopupMenu menu) override { menu_.set_entries(std::move(menu)); }
@@ -26,12 +23,10 @@ class QtNotificationArea final : public QObject, public NotificationArea {
 
   private:
     void watch_icon_window();
-    void make_icon();
     void activated(QSystemTrayIcon::ActivationReason reason);
 
     QtPopupMenu menu_;
-    std::function<QIcon()> picture_;
-    std::unique_ptr<QSystemTrayIcon> icon_;  // once it has been up
+    QSystemTrayIcon icon_{this};
     std::uint32_t callback_message_ = 0;
 };
 

@@ -68,7 +68,7 @@ class TrayIcon : public testing::Test {
     NotifyIconData record;
     std::vector<std::uint32_t> events;
     std::string chosen;
-    QtNotificationArea area{red_square, "QMenu { color: white; }"};
+    QtNotificationArea area{red_square(), "QMenu { color: white; }"};
 };
 
 TEST_F(TrayIcon, ComesUpHoweverLateItsHostIsAndComesBackWithIt) {
