@@ -8,10 +8,10 @@ namespace zephyne {
 namespace {
 
 bool has_twin(const FileSystem& files, const std::string& song_path) {
-    const auto [folder, name] = split_path(song_path, files.path_style());
-    const auto names = files.list_files(folder.empty() ? files.current_folder() : folder);
+    const SplitPath song = split_path(song_path, files.path_style());
+    const auto names = files.list_files(song.folder.empty() ? files.current_folder() : song.folder);
     return names && std::any_of(names->begin(), names->end(), [&](const std::string& other) {
-               return other != name && equal_ignoring_case(other, name);
+               return other != song.name && equal_ignoring_case(other, song.name);
            });
 }
 

@@ -83,7 +83,7 @@ void DriveSearchWindow::Command1_Click(Opened& window) {
     std::vector<std::string> lines;
     for (const std::size_t row : f.List2.selected_rows())
         lines.emplace_back(f.List3.item(row).text);
-    if (!lines.empty()) window.playlist.add(std::move(lines));
+    if (!lines.empty()) window.playlist.add(lines);
     window.playlist.Killdupes();
     window.playlist.playlistenable();
     f.request_unload(CloseReason::program);
@@ -156,7 +156,7 @@ void DriveSearchWindow::list(Opened& window, const FoundSongs& found) {
             }
         }
     }
-    window.results.add(std::move(lines));
+    window.results.add(lines);
     window.results.Killdupes();
 }
 

@@ -224,7 +224,7 @@ void FileCommands::after_delete(const Choice& choice) {
 std::string FileCommands::folder_of_current_song() {
     const std::string& path = stage_.program.CurrentSongPath;
     if (!path.empty()) {
-        const std::string folder = folder_of_song(path, stage_.files.path_style());
+        std::string folder = folder_of_song(path, stage_.files.path_style());
         if (!folder.empty()) return folder;
         if (stage_.files.path_style() == PathStyle::windows) return path.substr(0, 1) + ":\\";
         return stage_.files.current_folder();

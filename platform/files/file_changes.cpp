@@ -103,7 +103,7 @@ FileResult<void> copy_contents(const Descriptor& from, const Descriptor& to) {
             uninterrupted([&] { return ::read(from.number(), buffer->data(), block); });
         if (read < 0) return tl::unexpected(file_error(errno));
         if (read == 0) return {};
-        const auto written = write_all(to, {buffer->data(), static_cast<std::size_t>(read)});
+        auto written = write_all(to, {buffer->data(), static_cast<std::size_t>(read)});
         if (!written) return written;
     }
 }

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace zephyne::paint {
 
@@ -56,7 +57,8 @@ void silent_note(QPainter& painter, const Scale& scale, const QRectF& box, doubl
 
 void cursor_line(QPainter& painter, const Scale& scale, const Staff& staff, int step) {
     const int stroke = scale.stroke();
-    const int x = static_cast<int>(staff.area.left() + step * staff.unit - stroke / 2.0 + 0.5);
+    const int x =
+        static_cast<int>(std::lround(staff.area.left() + step * staff.unit - stroke / 2.0));
     painter.fillRect(
         QRect(x, static_cast<int>(staff.area.top()), stroke, static_cast<int>(staff.area.height())),
         faded(palette::ice, 0.45));

@@ -4,6 +4,7 @@
 #include "ui/qt/paint/shapes.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace zephyne::paint {
 
@@ -37,7 +38,7 @@ struct Travel {
     int end;    // of the value 1
     int at(const Scale&, double value) const {
         const double clamped = std::clamp(value, 0.0, 1.0);
-        return start + static_cast<int>((end - start) * clamped + 0.5);
+        return start + static_cast<int>(std::floor((end - start) * clamped + 0.5));
     }
 };
 
