@@ -24,6 +24,17 @@ SongList::SongList(Stage& stage, TimeDisplay& display, BetweenSongs& between, Pl
     order_.refreshfiles = [this] { refreshfiles(); };
 }
 
+void SongList::rebuild() {
+    const FlagGuard switching(stage_.program.SwitchingSong);
+    refreshfiles();
+}
+
+void SongList::forget(const std::string& real_name) {
+    order_.drop(real_name);
+    rebuild();
+    between_.select_current_song();
+}
+
 void SongList::refreshfiles() {
     if (stage_.settings().Playlist == 1) return;
     Form1& f = stage_.form;

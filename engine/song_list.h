@@ -19,6 +19,12 @@ class SongList {
     // Rebuilds the list from the current folder. Nothing happens with a playlist.
     void refreshfiles();
 
+    // The same in the middle of a step: what the list and its selection do meanwhile starts nothing.
+    void rebuild();
+
+    // A song's file has gone, and another song plays and goes on: it leaves the list and the cycle.
+    void forget(const std::string& real_name);
+
     // A new folder, or a rebuilt list: a new cycle begins, or the device stops (Manual).
     void filepathchange();
 

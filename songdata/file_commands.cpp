@@ -75,11 +75,6 @@ bool FileCommands::still_here(const Choice& choice) const {
            stage_.program.CurrentSongPath == choice.played_then;
 }
 
-void FileCommands::rebuild_list() {
-    const FlagGuard switching(stage_.program.SwitchingSong);
-    engine_.songs.refreshfiles();
-}
-
 void FileCommands::renamefile() {
     Program& program = stage_.program;
     Form1& f = stage_.form;
@@ -103,7 +98,7 @@ void FileCommands::renamefile() {
     if (note.there) (void)stage_.files.rename_file(note.path, sidecar_path(to, ".nte"));
     if (stage_.services.song_renamed) stage_.services.song_renamed(choice.path, to);
     const bool same_song = still_here(choice);
-    rebuild_list();
+    engine_.songs.rebuild();
     program.PausedByUser = false;
     show_renamed(choice, name, same_song ? MakeCurrent::yes : MakeCurrent::no);
 }
@@ -179,19 +174,14 @@ void FileCommands::Command4_Click() {
     }
     if (note.there) (void)stage_.files.remove_file(note.path);
     if (stage_.services.song_deleted) stage_.services.song_deleted(choice.path);
-    if (!still_here(choice)) return forget_deleted(choice);
+    if (!still_here(choice)) {  // another song has begun meanwhile
+        if (!queueing) engine_.songs.forget(choice.song.real());
+        return;
+    }
     program.SwitchingSong = false;
     engine_.player.StopDevice();
     program.PausedByUser = false;
     after_delete(choice);
-}
-
-// Another song has begun meanwhile, and goes on.
-void FileCommands::forget_deleted(const Choice& choice) {
-    if (stage_.settings().Mode == PlayMode::Queue) return;
-    engine_.order.drop(choice.song.real());
-    rebuild_list();
-    engine_.between.select_current_song();
 }
 
 void FileCommands::after_delete(const Choice& choice) {

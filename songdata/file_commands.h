@@ -41,10 +41,8 @@ class FileCommands {
     Choice selected_song() const;
     bool still_here(const Choice& choice) const;
     std::optional<std::size_t> row_of(const std::string& name) const;
-    void rebuild_list();
     void show_renamed(const Choice& choice, const std::string& name, MakeCurrent make);
     void Command4_Click();
-    void forget_deleted(const Choice& choice);
     void after_delete(const Choice& choice);
     std::string folder_of_current_song();
     void Command22_Click();

@@ -131,15 +131,15 @@ void MoveFile::after_move(const std::string& destination) {
     }
     form_->set_visible(false);
     if (!same_song) {
-        forget_moved();
+        engine_.songs.forget(name_);  // another song has begun while the window was open
     } else if (f.List1.empty()) {
         stop_and_clear();
     } else if (program.settings.Mode == PlayMode::Manual) {
         f.File1.set_selected(std::nullopt);
-        rebuild_list();
+        engine_.songs.rebuild();
     } else {
         engine_.order.drop(name_);
-        rebuild_list();
+        engine_.songs.rebuild();
         stage_.events.pump();
         engine_.display.rewind_slider();
         engine_.order.PlayNextSong();
@@ -149,23 +149,11 @@ void MoveFile::after_move(const std::string& destination) {
     f.Text1.set_text("");
 }
 
-void MoveFile::rebuild_list() {
-    const FlagGuard switching(stage_.program.SwitchingSong);
-    engine_.songs.refreshfiles();
-}
-
-// Another song has begun while the window was open, and goes on.
-void MoveFile::forget_moved() {
-    engine_.order.drop(name_);
-    rebuild_list();
-    engine_.between.select_current_song();
-}
-
 void MoveFile::stop_and_clear() {
     Form1& f = stage_.form;
     engine_.player.StopDevice();
     stage_.events.pump();
-    rebuild_list();
+    engine_.songs.rebuild();
     f.Label2.set_caption("");
     if (stage_.settings().Mode != PlayMode::Manual) f.Label4.set_caption("");
 }

@@ -25,8 +25,6 @@ class MoveFile {
     void Drive1_Change();
     void move_it();
     void after_move(const std::string& destination);
-    void rebuild_list();
-    void forget_moved();
     void stop_and_clear();
 
     Stage& stage_;

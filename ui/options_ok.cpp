@@ -127,7 +127,7 @@ void OptionsOk::base_mode() {
 void OptionsOk::folder_based() {
     layout_.folder_based();
     settings_.Playlist = 0;
-    refresh_quietly();
+    engine_.songs.rebuild();
     marks_.play_mode = 1;
 }
 
@@ -193,7 +193,7 @@ void OptionsOk::media_types() {
         return;
     }
     settings_.AllowWav = form_.Check9.value();
-    refresh_quietly();
+    engine_.songs.rebuild();
     marks_.play_mode = 1;
 }
 
@@ -261,11 +261,6 @@ void OptionsOk::start_new_cycle() {
     }
     engine_.order.RefillAndPlayNext();
     form_.request_unload(CloseReason::program);
-}
-
-void OptionsOk::refresh_quietly() {
-    const FlagGuard switching(stage_.program.SwitchingSong);
-    engine_.songs.refreshfiles();
 }
 
 std::string OptionsOk::song_count() const {

@@ -49,7 +49,6 @@ class OptionsOk {
     void wait_for_choice();
     void start_new_cycle();
 
-    void refresh_quietly();  // the song list, without a song being started
     std::string song_count() const;
 
     Stage& stage_;
