@@ -184,7 +184,7 @@ class Zephyne {
     TrayForm tray_;
     QtEventPump pump_;
     QtWindowHost windows_{user_scale_factor(), [this] { return tray_menu_.reachable(); }};
-    QtNotificationArea notification_area_{pictures::tray_icon(),
+    QtNotificationArea notification_area_{pictures::tray_icon,
                                           popup_look::menu(user_scale_factor())};
     QtFileDialogs file_dialogs_{user_scale_factor()};
     DesktopBeeper beeper_;

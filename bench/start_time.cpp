@@ -1,9 +1,10 @@
-// How long a program takes from its start until its window is on the screen.
+// How long a program takes from its start until its window is on the screen, beside another.
 //
-//   bench_start_time RUNS PROGRAM [ARGUMENT...]
+//   bench_start_time RUNS PROGRAM OTHER
 //
-// Starts the program RUNS times on the display of $DISPLAY, waits for the first large window to be
-// mapped, ends the program, and prints the median and the fastest time in ms.
+// Starts the two RUNS times by turns on the display of $DISPLAY, waits each time for the first
+// large window to be mapped, ends the program, and prints median and fastest times in ms, and their
+// ratios.
 #include <poll.h>
 #include <signal.h>
 #include <sys/wait.h>
@@ -37,7 +38,8 @@ bool window_came(xcb_connection_t* display) {
     while (Clock::now() < limit) {
         pollfd ready{xcb_get_file_descriptor(display), POLLIN, 0};
         poll(&ready, 1, 100);
-        while (const std::unique_ptr<xcb_generic_event_t, Free> event{xcb_poll_for_event(display)}) {
+        while (
+            const std::unique_ptr<xcb_generic_event_t, Free> event{xcb_poll_for_event(display)}) {
             if ((event->response_type & 0x7f) != XCB_MAP_NOTIFY) continue;
             const auto* map = reinterpret_cast<const xcb_map_notify_event_t*>(event.get());
             if (is_large(display, map->window)) return true;
@@ -46,11 +48,12 @@ bool window_came(xcb_connection_t* display) {
     return false;
 }
 
-double run_once(xcb_connection_t* display, char** command) {
+// In ms; -1 where no window came.
+double run_once(xcb_connection_t* display, const char* program) {
     const auto start = Clock::now();
     const pid_t child = fork();
     if (child == 0) {
-        execv(command[0], command);
+        execl(program, program, nullptr);
         _exit(127);
     }
     const bool came = window_came(display);
@@ -63,7 +66,7 @@ double run_once(xcb_connection_t* display, char** command) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc < 3) return std::fputs("bench_start_time RUNS PROGRAM [ARGUMENT...]\n", stderr), 2;
+    if (argc != 4) return std::fputs("bench_start_time RUNS PROGRAM OTHER\n", stderr), 2;
     xcb_connection_t* display = xcb_connect(nullptr, nullptr);
     if (xcb_connection_has_error(display)) return std::fputs("no display\n", stderr), 2;
     const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(display)).data;
@@ -71,14 +74,21 @@ int main(int argc, char** argv) {
     xcb_change_window_attributes(display, screen->root, XCB_CW_EVENT_MASK, &mask);
     xcb_flush(display);
 
-    std::vector<double> times;
-    for (int run = 0; run < std::atoi(argv[1]); ++run) {
-        times.push_back(run_once(display, argv + 2));
-        if (times.back() < 0) return std::fputs("no window came\n", stderr), 1;
+    std::vector<double> times[2];
+    for (int run = 0; run < std::max(1, std::atoi(argv[1])); ++run) {
+        for (int which = 0; which < 2; ++which) {
+            times[which].push_back(run_once(display, argv[2 + which]));
+            if (times[which].back() < 0) return std::fputs("no window came\n", stderr), 1;
+        }
     }
-    std::sort(times.begin(), times.end());
-    std::printf("%s: median %.1f ms, fastest %.1f ms of %zu\n", argv[2], times[times.size() / 2],
-                times.front(), times.size());
+    for (auto& series : times) std::sort(series.begin(), series.end());
+    const std::size_t middle = times[0].size() / 2;
+    for (int which = 0; which < 2; ++which) {
+        std::printf("%s: median %.1f ms, fastest %.1f ms of %zu\n", argv[2 + which],
+                    times[which][middle], times[which].front(), times[which].size());
+    }
+    std::printf("ratio: median %.2f, fastest %.2f\n", times[0][middle] / times[1][middle],
+                times[0].front() / times[1].front());
     xcb_disconnect(display);
     return 0;
 }

@@ -26,7 +26,7 @@ class TrayMenu {
     bool loaded() const { return loaded_; }
 
     // Whether a hidden window can be reached by the icon: it is up, and the desktop shows it.
-    bool reachable() const { return loaded_ && area_.has_host(); }
+    bool reachable() { return loaded_ && area_.has_host(); }
 
     // Takes the main window off the screen in a way that it can come back from; hides it, unless
     // set. Called for "Hide", and when the desktop loses its notification area while the window is

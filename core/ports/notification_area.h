@@ -60,7 +60,7 @@ class NotificationArea {
     virtual void show_menu() = 0;
 
     // Whether the desktop shows tray icons at present.
-    virtual bool has_host() const = 0;
+    virtual bool has_host() = 0;
 
     // Mouse events on the icon, from the event loop: the callback message, and lParam.
     std::function<void(std::uint32_t message, std::uint32_t lParam)> on_message;

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QTextDocument>
 #include <QWindow>
+#include <utility>
 
 namespace zephyne {
 namespace {
@@ -18,32 +19,55 @@ QString without_markup(QString text) {
 
 }  // namespace
 
-QtNotificationArea::QtNotificationArea(const QIcon& icon, const QString& menu_look)
-    : menu_(menu_look) {
-    icon_.setIcon(icon);
-    // For a desktop that draws the menu by itself. Where Qt opens it, show_menu() finds it open.
-    icon_.setContextMenu(menu_.widget());
+QtNotificationArea::QtNotificationArea(std::function<QIcon()> picture, const QString& menu_look)
+    : picture_(std::move(picture)), menu_(menu_look) {}
+
+// To look for the desktop's tray takes a time that the start of the program has better use for.
+QSystemTrayIcon& QtNotificationArea::icon() {
+    if (icon_) return *icon_;
+    icon_.emplace(this);
     QObject::connect(
-        &icon_, &QSystemTrayIcon::activated, this,
+        &*icon_, &QSystemTrayIcon::activated, this,
         [this](QSystemTrayIcon::ActivationReason reason) { activated(reason); },
         Qt::QueuedConnection);
+    return *icon_;
+}
+
+// Qt keeps looking for a host only while there is an icon.
+bool QtNotificationArea::has_host() {
+    icon();
+    return QSystemTrayIcon::isSystemTrayAvailable();
 }
 
 void QtNotificationArea::notify_icon(NotifyCommand command, const NotifyIconData& data) {
-    if (command == NotifyCommand::remove) {
-        menu_.close();
-        icon_.hide();
-        return;
-    }
     if ((data.uFlags & NotifyIconData::message_valid) != 0) {
         callback_message_ = data.uCallbackMessage;
     }
     if ((data.uFlags & NotifyIconData::tip_valid) != 0) {
-        const QString tip = without_markup(QString::fromStdString(data.tip()));
-        if (tip != icon_.toolTip()) icon_.setToolTip(tip);
+        tip_ = without_markup(QString::fromStdString(data.tip()));
     }
+    added_ = command == NotifyCommand::add || (added_ && command != NotifyCommand::remove);
+    if (command != NotifyCommand::add) return bring_up_to_date();
+    // An icon goes up behind what else this step brings, as the main window.
+    QMetaObject::invokeMethod(
+        this, [this] { bring_up_to_date(); }, Qt::QueuedConnection);
+}
+
+void QtNotificationArea::bring_up_to_date() {
+    if (!added_) {
+        menu_.close();
+        if (icon_) icon_->hide();
+        return;
+    }
+    if (icon().icon().isNull()) {
+        icon().setIcon(picture_());
+        // For a desktop that draws the menu by itself. Where Qt opens it, show_menu() finds it
+        // open.
+        icon().setContextMenu(menu_.widget());
+    }
+    if (icon().toolTip() != tip_) icon().setToolTip(tip_);
     menu_.bring_up_to_date();
-    if (command == NotifyCommand::add) icon_.show();
+    icon().show();
     watch_icon_window();
 }
 

@@ -163,7 +163,7 @@ class FakeNotificationArea final : public NotificationArea {
         menu_open = true;
         log_.push_back("menu");
     }
-    bool has_host() const override { return host; }
+    bool has_host() override { return host; }
 
     void release(std::uint32_t mouse_message) { on_message(icon.uCallbackMessage, mouse_message); }
 

@@ -68,7 +68,7 @@ class TrayIcon : public testing::Test {
     NotifyIconData record;
     std::vector<std::uint32_t> events;
     std::string chosen;
-    QtNotificationArea area{red_square(), "QMenu { color: white; }"};
+    QtNotificationArea area{red_square, "QMenu { color: white; }"};
 };
 
 TEST_F(TrayIcon, ComesUpHoweverLateItsHostIsAndComesBackWithIt) {
@@ -162,7 +162,12 @@ TEST_F(TrayIcon, ShowsNoNameAsMarkup) {
     const TrayHost host;
     record.set_tip("Zephyne - Playing <b>&lt;.mid");
     area.notify_icon(NotifyCommand::add, record);
-    const QString tip = area.findChild<QSystemTrayIcon*>()->toolTip();
+    const QSystemTrayIcon* icon = nullptr;
+    ASSERT_TRUE(wait_until([&] {
+        icon = area.findChild<QSystemTrayIcon*>();
+        return icon && !icon->toolTip().isEmpty();
+    }));
+    const QString tip = icon->toolTip();
     EXPECT_FALSE(Qt::mightBeRichText(tip)) << tip.toStdString();
 }
 

@@ -408,6 +408,9 @@ TEST_F(MirrorTest, AWindowIsNotResizedWhileTheWindowManagerTakesItUp) {
 
 TEST_F(MirrorTest, AnAnimationPaintsOnlyItsOwnCorner) {
     PaintWatch watch(*window);
+    window->update();
+    QTRY_COMPARE(watch.pictures, 1);
+    watch.painted = {};
     form.roll.set_image(2);
     const QRect corner(320, 10, 38, 40);
     QTRY_VERIFY(watch.painted.contains(corner));

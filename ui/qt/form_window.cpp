@@ -80,6 +80,8 @@ FormWindow::FormWindow(Form& form, double factor)
       extended_style_(kAppWindowStyle),
       shown_style_(kAppWindowStyle) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    // What has no font of its own yet takes this one, so that the system's is never looked up.
+    setFont(paint::font(paint::Role::Row, pixels_.logical_scale()));
     tooltip_look_->setStyleSheet(popup_look::tooltip(factor));
     tooltip_look_->hide();
     moved_.setSingleShot(true);
@@ -98,12 +100,8 @@ FormWindow::FormWindow(Form& form, double factor)
     hiding_.setSingleShot(true);
     connect(&hiding_, &QTimer::timeout, this, &QWidget::hide);
 
-    for (Control* control : form_.controls()) mirrors_.push_back(make_mirror(*this, *control));
     form_.observe(this);
     setWindowTitle(shown(form_.title()));
-    use_scale();
-    for (const auto& mirror : mirrors_) mirror->attach();
-    set_tab_order();
     take_place();
     if (form_.visible()) show_or_hide();
 }
@@ -122,6 +120,16 @@ void FormWindow::end() {
 
 void FormWindow::subject_gone() {
     end();
+}
+
+// While the window manager takes up the window, for the first time.
+void FormWindow::furnish() {
+    if (!attached_ || !mirrors_.empty()) return;
+    for (Control* control : form_.controls()) mirrors_.push_back(make_mirror(*this, *control));
+    use_scale();
+    for (const auto& mirror : mirrors_) mirror->attach();
+    set_tab_order();
+    give_focus();
 }
 
 void FormWindow::set_tab_order() {
@@ -192,6 +200,8 @@ void FormWindow::show_or_hide() {
     take_state();
     show();
     settling_.start();
+    QMetaObject::invokeMethod(
+        this, [this] { furnish(); }, Qt::QueuedConnection);
 }
 
 void FormWindow::settled() {
@@ -352,6 +362,10 @@ void FormWindow::showEvent(QShowEvent* event) {
     connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::use_scale,
             Qt::UniqueConnection);
     if (pixels_of(*this, pixels_.factor).ratio != pixels_.ratio) use_scale();
+    give_focus();
+}
+
+void FormWindow::give_focus() {
     if (form_.focused()) {
         follow_focus();
     } else {

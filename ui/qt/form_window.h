@@ -77,6 +77,8 @@ class FormWindow final : public QWidget, public ControlObserver {
 
   private:
     void set_tab_order();
+    void furnish();
+    void give_focus();
     void focus_first_stop();
     void use_scale();
     void take_place();
