@@ -169,11 +169,8 @@ class Zephyne {
         shut_down_.end_program = [] { QCoreApplication::exit(0); };
     }
 
-    Started start(const std::string& command_line) {
-        const Started started = start_up_.Form_Load(command_line);
-        if (started != Started::ended) synthesizer_.begin_to_load();
-        return started;
-    }
+    Started start(const std::string& command_line) { return start_up_.Form_Load(command_line); }
+    void begin_to_load_sound() { synthesizer_.begin_to_load(); }
     bool end(CloseReason reason) { return form_.request_unload(reason); }
     bool ended() const { return program_.Ending; }
 
@@ -266,8 +263,10 @@ int main(int argc, char** argv) {
     QTimer::singleShot(0, &application, [&] {
         if (zephyne.start(line) == Started::ended) QCoreApplication::exit(0);
     });
-    // After the window, which need not wait until its icon is drawn in all sizes.
-    QTimer::singleShot(0, &application,
-                       [] { QApplication::setWindowIcon(pictures::application_icon()); });
+    // After the window, which need wait neither for its sound nor until its icon is drawn.
+    QTimer::singleShot(0, &application, [&] {
+        if (!zephyne.ended()) zephyne.begin_to_load_sound();
+        QApplication::setWindowIcon(pictures::application_icon());
+    });
     return QApplication::exec();
 }
