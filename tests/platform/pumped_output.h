@@ -5,9 +5,6 @@
 #include "platform/sound/sample_time.h"
 
 #include <algorithm>
-#include <optional>
-#include <string>
-#include <utility>
 
 namespace zephyne::test {
 
