@@ -142,10 +142,11 @@ TEST(StandardMidiFile, NeitherTheTrackCountNorUnknownChunksNorAMissingEndOfTrack
         Bytes file = header(0, claimed, kTicksAreMilliseconds);
         append(file, chunk("XFIH", {0, 0x90, 1, 1, 'M', 'T', 'r', 'k'}));
         append(file, chunk("MTrk", Track().at(3).note_on(0, 1, 1).bytes()));
+        append(file, chunk("MTrk", Track().at(4).note_on(1, 2, 2).end_at(5).bytes()));
         append(file, chunk("XFKM", {'a', 'b', 'c'}));
         append(file, chunk("MTrk", Track().at(9).text("the end").bytes()));
         const MidiSong song = read(file);
-        EXPECT_EQ(lines(song), Lines{"3000: 90 1 1"}) << claimed;
+        EXPECT_EQ(lines(song), (Lines{"3000: 90 1 1", "4000: 91 2 2"})) << claimed;
         EXPECT_EQ(song.length_in_milliseconds(), 9) << claimed;
     }
 }
