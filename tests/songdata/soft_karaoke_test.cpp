@@ -4,12 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
-
-using test::bytes;
-using test::karaoke_file;
-using test::text_events;
 
 const std::string kSignature = bytes({3, 12}) + "Soft Karaoke";
 const std::string kWords = bytes({3, 5}) + "Words";
@@ -97,7 +93,7 @@ TEST(SoftKaraoke, WordsEndWithTheirTrack) {
     EXPECT_EQ(words_of("..." + bytes({1, 50}) + "cut"), "#cut");
 }
 
-TEST(SoftKaraoke, SyllablesAreMarked) {
+TEST(SoftKaraoke, SyllablesAreMarkedAndShownInTheirOwnEncodingWithoutControlCharacters) {
     const auto word = [](std::string_view text) {
         return words_of("..." + text_events({text}).substr(2));
     };
@@ -111,12 +107,6 @@ TEST(SoftKaraoke, SyllablesAreMarked) {
     EXPECT_EQ(word("@"), "#@");
     EXPECT_EQ(word("\\"), "#\r\n");
     EXPECT_EQ(word(""), "#");
-}
-
-TEST(SoftKaraoke, TextsAreShownInTheirOwnEncodingWithoutControlCharacters) {
-    const auto word = [](std::string_view text) {
-        return words_of("..." + text_events({text}).substr(2));
-    };
     EXPECT_EQ(word("caf\xC3\xA9"), "#caf\xC3\xA9");
     EXPECT_EQ(word("caf\xE9"), "#caf\xC3\xA9");
     EXPECT_EQ(word("\x80"), "#\xE2\x82\xAC");
@@ -151,4 +141,4 @@ TEST(SoftKaraoke, WordsComeTenSyllablesAtATime) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

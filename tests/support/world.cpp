@@ -83,6 +83,14 @@ Log World::happened() {
     return lines;
 }
 
+Log World::said() {
+    Log lines = happened();
+    std::erase_if(lines, [](const std::string& line) {
+        return !line.starts_with("message") && !line.starts_with("ask") && line != "beep";
+    });
+    return lines;
+}
+
 std::vector<std::string> World::names(const ListBox& list) {
     std::vector<std::string> names;
     for (const ListRow& row : list.items()) names.emplace_back(row.text);

@@ -71,8 +71,9 @@ class World {
     // call.
     std::vector<std::string> played();
 
-    // Everything in the log since the last call.
+    // Everything in the log since the last call; only what was said and asked of it.
     Log happened();
+    Log said();
 
     // The names in a list.
     static std::vector<std::string> names(const ListBox& list);
