@@ -133,8 +133,7 @@ TEST(ANewPlaylist, LeavesThePlayerWholeWheneverItComes) {
                     acts[act](world);
                     world.run_for(1000);
                     world.expect_in_step(world.form.File1);
-                    world.expect_flags_at_rest();
-                    world.expect_title_tells_the_truth();
+                    world.expect_in_one_piece();
                 }
             }
         }

@@ -88,25 +88,32 @@ TEST_F(PlaylistEditorTest, StopsTheMainPlayerAndPlaysTheListWhenItCloses) {
     EXPECT_EQ(world.played(), Log{"a.mid"});
     EXPECT_EQ(world.form.Label2.caption(), "4");
     EXPECT_EQ(world.form.Label4.caption(), "3");
-    world.expect_title_tells_the_truth();
-    world.expect_flags_at_rest();
+    world.expect_in_one_piece();
 }
 
-TEST_F(PlaylistEditorTest, AsksBeforeThePlaylistIsCleared) {
+TEST_F(PlaylistEditorTest, TakesSongsFromTheSearchAndAsksBeforeThePlaylistIsCleared) {
     const std::string question =
         "message: \r\nAre you sure you want to clear the playlist?  You won't be able to recover "
         "from this operation. [Important...]";
+    world.playlist_editor.show_drive_search = [](EditedPlaylist& playlist) {
+        playlist.playlistdisable();
+        playlist.add({"x.mid|/other/", "a.mid|/a/"});
+        playlist.Killdupes();
+        playlist.playlistenable();
+    };
     edit([&](Form9& form) {
         form.Command6.click();
         EXPECT_EQ(world.happened(), Log{}) << "there is nothing to clear";
         form.Command7.click();
-        world.messages.answer = Answer::no;
-        form.Command6.click();
-        EXPECT_EQ(form.List2.count(), 4U);
-        world.messages.answer = Answer::yes;
-        form.Command6.click();
-        EXPECT_EQ(world.happened(), (Log{question, question}));
-        EXPECT_EQ(form.Label11.caption(), "0 items in playlist.");
+        form.Command8.click();
+        EXPECT_EQ(world.lines().front(), "a.mid|/a/");
+        EXPECT_EQ(form.Label11.caption(), "5 items in playlist.");
+        for (const auto& [answer, left] : {std::pair(Answer::no, 5), std::pair(Answer::yes, 0)}) {
+            world.messages.answer = answer;
+            form.Command6.click();
+            EXPECT_EQ(world.happened(), Log{question});
+            EXPECT_EQ(form.Label11.caption(), std::to_string(left) + " items in playlist.");
+        }
     });
     EXPECT_TRUE(world.form.File1.empty());
 }
@@ -214,21 +221,6 @@ TEST_F(PlaylistEditorTest, AnUnreadableDriveIsReportedAndTheFolderStays) {
     });
 }
 
-TEST_F(PlaylistEditorTest, TheSearchAddsToThePlaylist) {
-    world.playlist_editor.show_drive_search = [](EditedPlaylist& playlist) {
-        playlist.playlistdisable();
-        playlist.add({"x.mid|/other/", "a.mid|/a/"});
-        playlist.Killdupes();
-        playlist.playlistenable();
-    };
-    edit([&](Form9& form) {
-        form.Command7.click();
-        form.Command8.click();
-        EXPECT_EQ(world.lines().front(), "a.mid|/a/");
-        EXPECT_EQ(form.Label11.caption(), "5 items in playlist.");
-    });
-}
-
 TEST_F(PlaylistEditorTest, AuditionsASongOnADeviceOfItsOwn) {
     world.settings().AutoReset = 1;
     edit([&](Form9& form) {
@@ -299,8 +291,7 @@ TEST_F(PlaylistEditorTest, AnAuditionIsGivenUpWhenTheUserActsWhileTheSynthesizer
             });
             EXPECT_EQ(fresh.audition.open_song(), "");
             EXPECT_EQ(fresh.played(), Log{"a.mid"}) << "the playlist, after the editor";
-            fresh.expect_title_tells_the_truth();
-            fresh.expect_flags_at_rest();
+            fresh.expect_in_one_piece();
         }
     }
 }

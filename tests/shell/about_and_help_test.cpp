@@ -78,29 +78,24 @@ TEST_F(AboutBoxTest, AskedForAgainClosesTheOpenOneFirst) {
     EXPECT_EQ(program.CurrentForm, FormNumber::Main);
 }
 
-TEST(Help, OpensTheFileOfTheProgramAndReadsItsTopics) {
+TEST(Help, OpensTheFilesThatComeWithTheProgramAndReadsItsTopics) {
     Program program;
-    program.HelpFile = "/zephyne/zephyne.hlp";
+    program.folders = {"/own", "/installed"};
+    program.HelpFile = "/installed/zephyne.hlp";
     MemoryFileSystem files(PathStyle::posix, "/music");
-    files.add_file("/zephyne/zephyne.hlp", "<p id=\"a\">All about a.</p>");
+    files.add_file("/installed/zephyne.hlp", "<p id=\"a\">All about a.</p>");
+    files.add_file("/installed/zephyne.htm");
     FakeViewer viewer;
     Help help(program, files, viewer);
     help.show_contents();
     help.ask_whats_this();
     help.close();
-    EXPECT_EQ(viewer.log, (Log{"show /zephyne/zephyne.hlp", "ask", "close"}));
+    EXPECT_EQ(viewer.log, (Log{"show /installed/zephyne.hlp", "ask", "close"}));
     EXPECT_EQ(help.topic("a"), "All about a.");
     EXPECT_EQ(help.topic("b"), "");
-
     program.HelpFile = "/nowhere";
     EXPECT_EQ(Help(program, files, viewer).topic("a"), "");
-}
 
-TEST(WebLinks, OpensThePageThatComesWithTheProgram) {
-    Program program;
-    program.folders = {"/own", "/installed"};
-    MemoryFileSystem files(PathStyle::posix, "/music");
-    files.add_file("/installed/zephyne.htm");
     FakePages pages;
     WebLinks links(program, files, pages);
     links.show();

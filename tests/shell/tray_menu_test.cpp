@@ -221,8 +221,7 @@ TEST_F(Tray, StopOfASongWhoseFileIsGoneLeavesNothingOpen) {
     world.tray.mnuStop.click();
     EXPECT_EQ(state(), "Pause (off), Stop (off)");
     EXPECT_EQ(world.open_song(), "");
-    world.expect_title_tells_the_truth();
-    world.expect_window_unlocked();
+    world.expect_in_one_piece();
 }
 
 TEST_F(Tray, AMenuThatIsNewShowsThePlayerAsItIs) {
@@ -308,9 +307,7 @@ TEST_F(Tray, ActionsThatMeetInTheMiddleLeaveThePlayerInOnePiece) {
                 outer->click();
                 world.pump.on_pump = nullptr;
                 world.run_for(1200);
-                world.expect_flags_at_rest();
-                world.expect_title_tells_the_truth();
-                world.expect_window_unlocked();
+                world.expect_in_one_piece();
             }
         }
     }

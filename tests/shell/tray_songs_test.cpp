@@ -48,8 +48,7 @@ TEST_F(RecentSongsInTheTray, ASongOfThisFolderPlaysAndTheRoundGoesOn) {
     world.run_for(180'000);
     EXPECT_EQ(world.open_song(), "C.mid");
     EXPECT_EQ(world.program.RecentCount, 1) << "A is in the menu already";
-    world.expect_flags_at_rest();
-    world.expect_window_unlocked();
+    world.expect_in_one_piece();
 }
 
 TEST_F(RecentSongsInTheTray, ASongOfAnotherFolderBeginsARoundThere) {
@@ -83,8 +82,7 @@ TEST_F(RecentSongsInTheTray, ASongThatIsGoneIsPassedOverWithoutAWord) {
     world.tray.mnuSong(3).click();
     EXPECT_EQ(world.happened(), Log{});
     EXPECT_EQ(world.open_song(), "A.mid");
-    world.expect_flags_at_rest();
-    world.expect_window_unlocked();
+    world.expect_in_one_piece();
 }
 
 TEST_F(RecentSongsInTheTray, ASongThatIsNotListedIsAnUnknownError) {
@@ -94,8 +92,7 @@ TEST_F(RecentSongsInTheTray, ASongThatIsNotListedIsAnUnknownError) {
     world.tray.mnuSong(5).click();
     EXPECT_EQ(world.happened(), Log{"message: Unknown Error [Error]"});
     EXPECT_EQ(world.open_song(), "A.mid");
-    world.expect_flags_at_rest();
-    world.expect_window_unlocked();
+    world.expect_in_one_piece();
 
     world.settings().AutoDelay = 1;
     world.messages.while_open = [&] { world.run_for(190'000); };
@@ -167,8 +164,7 @@ TEST_F(RecentSongsInTheTray, ASongHandedOverMeanwhileWaitsItsTurn) {
     EXPECT_EQ(world.open_song(), "Y.mid");
     world.run_for(2000);
     EXPECT_EQ(world.open_song(), "C.mid");
-    world.expect_flags_at_rest();
-    world.expect_title_tells_the_truth();
+    world.expect_in_one_piece();
 }
 
 }  // namespace

@@ -69,14 +69,11 @@ INSTANTIATE_TEST_SUITE_P(BothPathStyles, FileCareTest,
                              return style.param == PathStyle::posix ? "Posix" : "Windows";
                          });
 
-TEST(NameFromText, DropsWhatCannotStandInANameAndKeepsTheRest) {
+TEST(FileCare, NamesOfTextsAndFoldersOfSongs) {
     EXPECT_EQ(name_from_text("My Song: Final?"), "My Song Final");
     EXPECT_EQ(name_from_text("one\r\n\ttwo"), "one two");
     EXPECT_EQ(name_from_text("a <b>|c/\\\"*.mid"), "a bc*.mid");
     EXPECT_EQ(name_from_text("?<>"), "");
-}
-
-TEST(FolderOfSong, IsWhatStandsBeforeTheLastSeparator) {
     EXPECT_EQ(folder_of_song("C:\\MIDI\\SONG.MID", PathStyle::windows), "C:\\MIDI");
     EXPECT_EQ(folder_of_song("C:\\SONG.MID", PathStyle::windows), "C:");
     EXPECT_EQ(folder_of_song("/midi/song.mid", PathStyle::posix), "/midi");

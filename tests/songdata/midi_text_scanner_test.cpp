@@ -151,17 +151,15 @@ TEST(MidiHeader, TellsFormatAndTracksOfTheFirstHeaderAnywhere) {
 }
 
 TEST(MidiHeader, LeavesOutWhatIsMissingOrDoesNotFit) {
-    EXPECT_FALSE(header_of("").header_found);
-    EXPECT_FALSE(header_of("MTh").header_found);
-    const MidiScanResult large = header_of(header(0x8000, 0xFFFF));
-    EXPECT_TRUE(large.header_found);
-    EXPECT_EQ(large.format, 0);
-    EXPECT_EQ(large.track_count, 0);
-    EXPECT_EQ(header_of(header(2, 0x7FFF)).track_count, 0x7FFF);
-    const MidiScanResult cut = header_of(header(2, 5).substr(0, 11));
-    EXPECT_TRUE(cut.header_found);
-    EXPECT_EQ(cut.format, 2);
-    EXPECT_EQ(cut.track_count, 0);
+    const auto facts = [](const std::string& image) {
+        const MidiScanResult found = header_of(image);
+        return std::tuple(found.header_found, found.format, found.track_count);
+    };
+    EXPECT_EQ(facts(""), std::tuple(false, 0, 0));
+    EXPECT_EQ(facts("MTh"), std::tuple(false, 0, 0));
+    EXPECT_EQ(facts(header(0x8000, 0xFFFF)), std::tuple(true, 0, 0));
+    EXPECT_EQ(facts(header(2, 0x7FFF)), std::tuple(true, 2, 0x7FFF));
+    EXPECT_EQ(facts(header(2, 5).substr(0, 11)), std::tuple(true, 2, 0)) << "cut off";
 }
 
 }  // namespace

@@ -120,16 +120,14 @@ TEST_F(PresetsTest, FolderPresetMovesAndStartsTheCycleThere) {
     key(1).click();
     EXPECT_TRUE(world.played().empty()) << "it is there already";
     EXPECT_EQ(world.form.File1.selected(), 0U);
-    world.expect_flags_at_rest();
-    world.expect_title_tells_the_truth();
+    world.expect_in_one_piece();
 
     world.settings().Mode = PlayMode::Manual;
     set(2, "/music");
     key(2).click();
     EXPECT_EQ(world.open_song(), "");
     EXPECT_FALSE(world.form.File1.selected());
-    world.expect_flags_at_rest();
-    world.expect_title_tells_the_truth();
+    world.expect_in_one_piece();
 }
 
 TEST_F(PresetsTest, SongPresetPlaysItsSongAndBuildsANewCycleAroundIt) {
@@ -143,8 +141,7 @@ TEST_F(PresetsTest, SongPresetPlaysItsSongAndBuildsANewCycleAroundIt) {
     EXPECT_EQ(world.form.Label2.caption() + " " + world.form.Label4.caption(), "2 1");
     EXPECT_EQ(world.program.CurrentSongPath, "/other/y.mid");
     EXPECT_EQ(world.program.RecentSongs[0].name, "a.mid");
-    world.expect_flags_at_rest();
-    world.expect_title_tells_the_truth();
+    world.expect_in_one_piece();
     world.midi.finish();
     world.run_for(1000);
     EXPECT_EQ(world.played(), Log{"x.mid"});
@@ -205,8 +202,7 @@ TEST_F(PresetsTest, SongThatEndsUnderTheMessageIsFollowedByTheNext) {
         key(number).click();
         world.messages.while_open = nullptr;
         EXPECT_EQ(world.open_song(), number == 1 ? "b.mid" : "y.mid");
-        world.expect_flags_at_rest();
-        world.expect_title_tells_the_truth();
+        world.expect_in_one_piece();
     }
 }
 
@@ -230,8 +226,7 @@ TEST_F(PresetsTest, VanishedSongLeavesItsFolder) {
         EXPECT_EQ(preset(1), std::string(folder) + "|");
         EXPECT_EQ(world.form.Dir1.path(), folder);
         EXPECT_EQ(world.played(), played);
-        world.expect_flags_at_rest();
-        world.expect_title_tells_the_truth();
+        world.expect_in_one_piece();
     }
 }
 

@@ -47,7 +47,7 @@ TEST(SoftKaraoke, BecomesHeaderLinesAndWordsInLines) {
               "#Copper Moon\r\nClara\r\n\r\nCopper moon\r\nslowly");
 }
 
-TEST(SoftKaraoke, HeaderIsReadFromOneByteBehindTheSignature) {
+TEST(SoftKaraoke, HeaderIsReadFromOneByteBehindTheSignatureAndItsLinesLoseTheirTags) {
     const std::string ab = bytes({1, 2, 'a', 'b'});
     EXPECT_EQ(header_of(ab), "#") << "a 1 in the place of the time is no event";
     EXPECT_EQ(header_of("." + ab + "."), "ab\r\n#");
@@ -59,9 +59,6 @@ TEST(SoftKaraoke, HeaderIsReadFromOneByteBehindTheSignature) {
               std::string(200, 'x') + "\r\n#")
         << "a length is one byte";
     EXPECT_EQ(header_of("." + bytes({1, 0}) + "."), "\r\n#");
-}
-
-TEST(SoftKaraoke, HeaderLinesLoseTheirTags) {
     const auto line = [](std::string_view text) { return header_of(text_events({text}) + "."); };
     EXPECT_EQ(line("@Ttitle"), "title\r\n#");
     EXPECT_EQ(line("@T"), "\r\n#");

@@ -89,26 +89,24 @@ TEST_F(SongSummaryTest, LeavesOutWhatTheFileDoesNotTell) {
               (Texts{"Path/Filename: /music/loud.wav\r\n\r\nFile Size: 7 bytes."}));
 }
 
-TEST_F(SongSummaryTest, EmptiesTheBoxForAFileThatCannotBeRead) {
+TEST_F(SongSummaryTest, IsEmptyForAFileThatCannotBeReadAndNotMadeWithoutBoxSongOrList) {
     world.files.deny(world.path("a.mid"));
     EXPECT_EQ(alone("a.mid"), (Texts{"Scanning File...", ""}));
     world.files.vanish(world.path("b.mid"));
     EXPECT_EQ(alone("b.mid"), (Texts{"Scanning File...", ""}));
     world.files.vanish(world.path("e.wav"));
     EXPECT_EQ(alone("e.wav"), (Texts{""}));
-}
 
-TEST_F(SongSummaryTest, IsNotMadeWithoutBoxSongOrList) {
     world.settings().Extended = 0;
-    EXPECT_EQ(alone("a.mid"), Texts{});
+    EXPECT_EQ(alone("c.mid"), Texts{});
     world.settings().Extended = 1;
     world.program.CurrentSongName.clear();
     summary.getsonginfo();
-    world.program.CurrentSongName = "a.mid";
+    world.program.CurrentSongName = "c.mid";
     world.program.CurrentSongPath.clear();
     summary.getsonginfo();
     world.form.File1.clear();
-    EXPECT_EQ(alone("a.mid"), Texts{});
+    EXPECT_EQ(alone("c.mid"), Texts{});
 }
 
 TEST_F(SongSummaryTest, IsMadeWhenASongStartsButNotWhenItGoesOn) {

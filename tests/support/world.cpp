@@ -130,6 +130,12 @@ void World::expect_window_unlocked() const {
     EXPECT_EQ(form.Command6.caption(), "Reset List");
 }
 
+void World::expect_in_one_piece() const {
+    expect_flags_at_rest();
+    expect_title_tells_the_truth();
+    expect_window_unlocked();
+}
+
 void World::expect_flags_at_rest() const {
     EXPECT_FALSE(program.SwitchingSong);
     EXPECT_FALSE(program.AutoStarting);

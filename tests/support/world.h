@@ -89,6 +89,7 @@ class World {
     void expect_flags_at_rest() const;
     void expect_title_tells_the_truth() const;
     void expect_window_unlocked() const;
+    void expect_in_one_piece() const;  // all three
 
   private:
     std::size_t played_up_to_ = 0;
