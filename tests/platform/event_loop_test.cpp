@@ -123,6 +123,7 @@ TEST_F(EventLoop, SignalsReachTheEventLoopOneByOneUnlessTheyAreIgnoredFromTheSta
         for (const int signal : {SIGTERM, SIGINT, SIGHUP}) std::raise(signal);
         EXPECT_EQ(calls, 0) << "nothing may run inside the signal itself";
         run_nested_loop();
+        QCoreApplication::processEvents();
         EXPECT_EQ(calls, expected);
     }
     EXPECT_EQ(std::signal(SIGHUP, SIG_DFL), SIG_IGN);

@@ -237,6 +237,12 @@ TEST_F(Tray, AMenuThatIsNewShowsThePlayerAsItIs) {
     world.form.MMControl1.press(TransportKey::stop);
     menu.load();
     EXPECT_EQ(state(), "Pause (off), Play");
+
+    left_click();
+    menu.unload();
+    menu.load();
+    left_click();
+    EXPECT_EQ(windows.raised, Log()) << "these are not two clicks on the same icon";
 }
 
 TEST_F(Tray, NextInTheQueueTakesTheQueuesStepOnly) {
