@@ -17,6 +17,8 @@ constexpr int kEveryChannel = -1;
 constexpr int kSustainPedal = 64;
 constexpr int kSostenutoPedal = 66;
 constexpr int kResetAllControllers = 121;
+constexpr int kAllNotesOff = 123;
+constexpr int kFirstModeMessage = 124;  // omni off and on, mono, poly
 
 // The library's messages are for its own developers; what concerns a user is said by the callers.
 void ignore_message(int, const char*, void*) {}
@@ -74,6 +76,9 @@ void Synthesizer::controller(int channel, int number, int value) {
         told_.key_pressure[channel].fill(0);
         told_.channel_pressure[channel] = 0;
     }
+    // All 16 channels are played, whatever a mode message says: the library would let one for the
+    // first channel silence all others. What is left of it is that it ends the channel's notes.
+    if (number >= kFirstModeMessage) number = kAllNotesOff;
     fluid_synth_cc(synth_.get(), channel, number, value);
 }
 

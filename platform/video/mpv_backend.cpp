@@ -166,9 +166,9 @@ void MpvBackend::stop() {
 }
 
 void MpvBackend::rest(DeviceMode mode) {
-    end_timer_.set_enabled(false);
     if (loaded_) player_->set("pause", true);
     place_ = position();
+    end_timer_.set_enabled(false);  // only now: while it runs, the library is not where we are
     mode_ = mode;
 }
 

@@ -149,6 +149,23 @@ TEST_F(MpvBackendTest, PlacesAreExactAndKeptThroughPauseAndStop) {
     EXPECT_EQ(backend_.position(), 0);
 }
 
+TEST_F(MpvBackendTest, SongThatIsHeldWhileItIsMovedStaysAtTheNewPlace) {
+    open_wave(60000);
+    backend_.play();
+    run_for(100);
+    for (const Milliseconds place : {30000, 60000, 10000, 60000}) {
+        backend_.pause();
+        backend_.play_from(place);
+        backend_.pause();
+        EXPECT_EQ(backend_.mode(), DeviceMode::paused);
+        run_for(100);
+        EXPECT_EQ(backend_.position(), place);
+    }
+    backend_.play();
+    run_until_end();
+    EXPECT_EQ(ends_, 1);
+}
+
 TEST_F(MpvBackendTest, PlayingWhereNothingIsLeftEndsAfterAMoment) {
     open_wave(0);
     EXPECT_EQ(backend_.length(), 0);
