@@ -62,7 +62,7 @@ class SongRenderer final : public AudioSource {
         silent,
         playing,
         paused,   // in the middle of sounding notes
-        ringing,  // notes and room die away, heard or not
+        ringing,  // notes and room die away
     };
 
     void obey(const PlayWish& wish);

@@ -136,6 +136,17 @@ void Synthesizer::cut_notes() {
     end_all_voices();
 }
 
+// Only a reset takes the reverb out of the library; what it was told before is told again. The
+// voices go first, or their last moments would be in the room again.
+void Synthesizer::empty_room() {
+    release_notes();
+    end_all_voices();
+    SynthesizerState now;
+    now.capture(synth_.get(), told_);
+    now.restore(synth_.get());
+    end_all_voices();
+}
+
 // The library renders in blocks of 64 frames, and goes on with the one that it has begun: two
 // blocks are rendered for nobody.
 void Synthesizer::end_all_voices() {
@@ -159,10 +170,9 @@ void Synthesizer::bridge() {
 }
 
 void Synthesizer::render(float* left, float* right, int frames) {
-    if (flow_ != SoundFlow::frozen) {
+    if (flow_ == SoundFlow::heard && synth_) {
         fluid_synth_write_float(synth_.get(), frames, left, 0, 1, right, 0, 1);
-    }
-    if (flow_ != SoundFlow::heard || !synth_) {
+    } else {
         std::fill_n(left, frames, 0.0F);
         std::fill_n(right, frames, 0.0F);
     }
