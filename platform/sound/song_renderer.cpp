@@ -84,13 +84,15 @@ void SongRenderer::enter(Activity activity, SoundFlow flow) {
 }
 
 void SongRenderer::obey(const PlayWish& wish) {
-    const bool other_song = wish.song_serial != wish_.song_serial;
+    const bool before = wish.before_serial != wish_.before_serial;
+    const bool other_song = before || wish.song_serial != wish_.song_serial;
     const bool cut = wish.cut_serial != wish_.cut_serial;
     const bool go = wish.seek_serial != wish_.seek_serial;
     wish_ = wish;
     finished_ = false;
 
     if (other_song || cut || wish.state == PlayWish::State::stopped) end_sound();
+    if (before) sequencer_.open_at_end(*wish.before);
     if (other_song) {
         sequencer_.open(wish.song);
         if (wish.song) synthesizer_.remember_state();

@@ -158,14 +158,13 @@ void Synthesizer::end_all_voices() {
 
 void Synthesizer::set_flow(SoundFlow flow) {
     if (flow == flow_) return;
-    // Out of silence into silence there is nothing to bridge, and the first note of a song keeps
-    // its attack.
-    const bool silent = flow_ == SoundFlow::frozen && !has_voices() && !bridging();
-    if (!silent) bridge();
+    bridge();
     flow_ = flow;
 }
 
+// Out of silence there is nothing to bridge, and the first note of a song keeps its attack.
 void Synthesizer::bridge() {
+    if (flow_ == SoundFlow::frozen && !has_voices() && !bridging()) return;
     bridge_.begin([this](float* left, float* right, int frames) { render(left, right, frames); });
 }
 
