@@ -9,7 +9,7 @@ song=()
 cd "$(dirname "$(realpath "$0")")"
 
 scripts/install-packages.sh build
-[ -f build/release/build.ninja ] || cmake --preset release -DZEPHYNE_BUILD_TESTS=OFF >/dev/null
+[ -f build/release/build.ninja ] || cmake --preset release >/dev/null
 cmake --build --preset release --target zephyne
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
