@@ -264,7 +264,6 @@ int main(int argc, char** argv) {
             const bool may_ask = session.allowsInteraction();
             const bool ended = zephyne.end(may_ask ? CloseReason::user : CloseReason::session_end);
             if (!ended) session.cancel();
-            session.release();
         });
     QTimer::singleShot(0, &application, [&] {
         if (zephyne.start(line) == Started::ended) QCoreApplication::exit(0);

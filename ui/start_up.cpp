@@ -35,9 +35,9 @@ StartUp::StartUp(Stage& stage, Engine& engine, MainWindowLayout& layout, WindowH
 }
 
 void StartUp::come_forward() {
-    stage_.form.set_visible(true);
-    stage_.form.set_state(WindowState::normal);
-    windows_.bring_to_front(stage_.form);
+    bring_back(stage_.form, windows_);
+    // What waits for an answer comes with it, or the main window would seem dead.
+    if (Form* modal = windows_.modal_form()) bring_back(*modal, windows_);
 }
 
 Started StartUp::Form_Load(const std::string& command_line) {

@@ -35,6 +35,17 @@ TEST(FirstCopy, ComesForwardFromWhereverItIs) {
     EXPECT_EQ(world.hand_over.sent, Log());
 }
 
+TEST(FirstCopy, ComesForwardWithTheWindowThatWaitsForAnAnswer) {
+    ProgramWorld world;
+    world.load("Mode=Manual\r\n");
+    Form message({.name = "dlgbox"});
+    message.set_state(WindowState::minimized);
+    world.windows.modal = &message;
+    world.hand_over.on_bring_forward();
+    EXPECT_EQ(world.windows.raised, (Log{"Form1", "dlgbox"}));
+    EXPECT_EQ(message.state(), WindowState::normal);
+}
+
 TEST(FirstCopy, PlaysASongHandedOverWithinASecondAndAHalf) {
     ProgramWorld world({"a.mid", "b.mid"});
     world.load("Mode=Manual\r\n");
