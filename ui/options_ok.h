@@ -10,6 +10,7 @@
 #include "ui/options_services.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace zephyne {
@@ -33,6 +34,7 @@ class OptionsOk {
     void colour();
     void large_display();
     void media_types();
+    void ask_for_new_playlist();
     void lower_case();
 
     void remember_place();
@@ -43,12 +45,15 @@ class OptionsOk {
     void folder_based();
     void playlist_based();
 
-    // The playback mode, and what becomes of the song that plays.
+    // The playback mode that was touched, nothing when none was; and what becomes of the song that
+    // plays.
+    std::optional<std::int32_t> chosen_mode() const;
     void play_mode();
-    void play_by(std::int32_t mode, const std::string& name);
+    void play_by(const std::string& name);
     void wait_for_choice();
     void start_new_cycle();
 
+    bool holds_playlist() const;  // with songs in it
     std::string song_count() const;
 
     Stage& stage_;
