@@ -59,8 +59,6 @@ void OptionsOk::run() {
     settings_.Reverse = form_.Check7.value();
     presets();
     reset_method();
-    if (const auto mode = chosen_mode()) settings_.Mode = *mode;
-    ask_for_new_playlist();
     if (!stage_.program.Ending) play_mode();
 }
 
@@ -186,24 +184,17 @@ void OptionsOk::large_display() {
 
 void OptionsOk::media_types() {
     if (marks_.media_types != 1) return;
+    if (settings_.Playlist == 1 && !stage_.form.File1.empty()) {
+        stage_.messages.ShowDlgMessage(
+            "Please re-create your playlist to reflect the changes in allowed media types.  Press "
+            "Create/Edit/Save playlist to make changes.",
+            0, "Playlist Mode");
+        settings_.AllowWav = form_.Check9.value();
+        return;
+    }
     settings_.AllowWav = form_.Check9.value();
-    if (holds_playlist()) return;
     engine_.songs.rebuild();
     marks_.play_mode = 1;
-}
-
-// Waits for its OK, and the session may end meanwhile: by now all that was chosen is in the
-// settings.
-void OptionsOk::ask_for_new_playlist() {
-    if (marks_.media_types != 1 || !holds_playlist()) return;
-    stage_.messages.ShowDlgMessage(
-        "Please re-create your playlist to reflect the changes in allowed media types.  Press "
-        "Create/Edit/Save playlist to make changes.",
-        0, "Playlist Mode");
-}
-
-bool OptionsOk::holds_playlist() const {
-    return settings_.Playlist == 1 && !stage_.form.File1.empty();
 }
 
 void OptionsOk::lower_case() {
@@ -229,32 +220,24 @@ void OptionsOk::reset_method() {
     check_reset_file(stage_.program, stage_.files);
 }
 
-std::optional<std::int32_t> OptionsOk::chosen_mode() const {
-    if (marks_.play_mode != 1) return std::nullopt;
-    if (form_.Option1.selected()) return PlayMode::Random;
-    if (form_.Option2.selected()) return PlayMode::Alpha;
-    if (form_.Option3.selected()) return PlayMode::Manual;
-    if (form_.Option6.selected()) return PlayMode::Preview;
-    return std::nullopt;
-}
-
 void OptionsOk::play_mode() {
-    const auto mode = chosen_mode();
-    if (mode == PlayMode::Random) {
-        play_by("Random Playback");
-    } else if (mode == PlayMode::Alpha) {
-        play_by(settings_.Reverse == 1 ? "Reverse Alpha" : "Forward Alpha");
-    } else if (mode == PlayMode::Manual) {
+    const bool marked = marks_.play_mode == 1;
+    if (form_.Option1.selected() && marked) {
+        play_by(PlayMode::Random, "Random Playback");
+    } else if (form_.Option2.selected() && marked) {
+        play_by(PlayMode::Alpha, settings_.Reverse == 1 ? "Reverse Alpha" : "Forward Alpha");
+    } else if (form_.Option3.selected() && marked) {
         wait_for_choice();
-    } else if (mode == PlayMode::Preview) {
+    } else if (form_.Option6.selected() && marked) {
         stage_.program.PausedByUser = false;
-        play_by("Preview Mode");
+        play_by(PlayMode::Preview, "Preview Mode");
     } else if (marks_.continuous == 1 && settings_.Mode < PlayMode::Manual) {
         start_new_cycle();
     }
 }
 
-void OptionsOk::play_by(const std::string& name) {
+void OptionsOk::play_by(std::int32_t mode, const std::string& name) {
+    settings_.Mode = mode;
     stage_.form.Label10.set_caption(name);
     stage_.form.Label2.set_caption(song_count());
     start_new_cycle();
@@ -262,6 +245,7 @@ void OptionsOk::play_by(const std::string& name) {
 
 // The song that plays goes on; the window stays loaded.
 void OptionsOk::wait_for_choice() {
+    settings_.Mode = PlayMode::Manual;
     stage_.form.Label10.set_caption("Manual Select");
     stage_.form.Label2.set_caption(song_count());
     stage_.form.Label4.set_caption("N/A");

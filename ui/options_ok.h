@@ -10,7 +10,6 @@
 #include "ui/options_services.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
 namespace zephyne {
@@ -34,7 +33,6 @@ class OptionsOk {
     void colour();
     void large_display();
     void media_types();
-    void ask_for_new_playlist();
     void lower_case();
 
     void remember_place();
@@ -45,15 +43,12 @@ class OptionsOk {
     void folder_based();
     void playlist_based();
 
-    // The playback mode that was touched, nothing when none was; and what becomes of the song that
-    // plays.
-    std::optional<std::int32_t> chosen_mode() const;
+    // The playback mode, and what becomes of the song that plays.
     void play_mode();
-    void play_by(const std::string& name);
+    void play_by(std::int32_t mode, const std::string& name);
     void wait_for_choice();
     void start_new_cycle();
 
-    bool holds_playlist() const;  // with songs in it
     std::string song_count() const;
 
     Stage& stage_;

@@ -123,22 +123,6 @@ TEST(OptionsEffects, ALoadedPlaylistKeepsItsSongsWhenMediaTypesChange) {
     EXPECT_EQ(world.form.File1.count(), 1U);
 }
 
-TEST(OptionsEffects, AllThatWasChosenIsKeptWhenTheSessionEndsAtItsMessage) {
-    OptionsWorld world(kBarOnly + "Playlist=1\r\nMode=Manual\r\n");
-    world.open_playlist({"a.mid|/music/"});
-    world.messages.while_open = [&] { world.form.request_unload(CloseReason::session_end); };
-    world.ok([](Form2& f) {
-        f.Check9.click(), f.Check12.click(), f.Check8.click(), f.Option5_2.click();
-        f.Option2.click();
-    });
-    const std::string file = world.files.contents(world.settings_path()).value();
-    for (const char* line :
-         {"AllowWav=1", "Lowercase=1", "AutoNotes=1", "ResetType=2", "Mode=Alpha"}) {
-        EXPECT_NE(file.find("\r\n" + std::string(line) + "\r\n"), std::string::npos) << line;
-    }
-    EXPECT_EQ(world.played(), Log()) << "and no song starts any more";
-}
-
 TEST(OptionsLife, AfterAnOkWithoutANewRoundItIsHiddenWithItsStateAndItsMarks) {
     OptionsWorld world(kBarOnly);
     world.ok([](Form2& f) { f.Option3.click(), f.Text1.set_text("left as it is"); });
