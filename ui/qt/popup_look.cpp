@@ -3,10 +3,8 @@
 #include "ui/qt/paint/palette.h"
 #include "ui/qt/paint/type.h"
 
-#include <QMenu>
 #include <QPalette>
 #include <QToolTip>
-#include <memory>
 #include <utility>
 
 namespace zephyne::popup_look {
@@ -64,19 +62,6 @@ void dress_tooltips(double factor) {
     QToolTip::setFont(paint::font(paint::Role::Caption, paint::Scale{factor}));
 }
 
-QString menu(double factor) {
-    return filled_in(
-        QStringLiteral("QMenu { background: $ground; color: $text; border: (1) solid $edge;"
-                       " font: 500 (11) \"$family\"; }"
-                       "QMenu::item { padding: (3) (22); }"
-                       "QMenu::item:selected { background: $selection; color: $lit; }"
-                       "QMenu::item:disabled { background: transparent; color: $quiet; }"
-                       "QMenu::item:default { font-weight: 600; }"
-                       "QMenu::icon { width: 0; }"
-                       "QMenu::separator { height: (1); background: $edge; margin: (3) 0; }"),
-        factor);
-}
-
 QString whats_this(double factor) {
     return filled_in(QStringLiteral("QLabel { background: $ground; color: $text;"
                                     " border: (1) solid $edge; padding: (4) (11);"
@@ -118,13 +103,6 @@ QString help_document(double factor) {
                                     "code, pre { font-family: monospace; color: $text; }"
                                     "a { color: $link; text-decoration: none; }"),
                      factor);
-}
-
-void run_menu(QMenu* menu, double factor, const QPoint& screen_point) {
-    const std::unique_ptr<QMenu> owned(menu);
-    if (!owned) return;
-    owned->setStyleSheet(popup_look::menu(factor));
-    owned->exec(screen_point);
 }
 
 }  // namespace zephyne::popup_look
