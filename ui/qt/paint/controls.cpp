@@ -203,7 +203,7 @@ void glass_text_box(QPainter& painter, const Scale& scale, const QRect& box,
 QRect text_box_interior(const Scale& scale, const QRect& box, TextLines lines) {
     const int side = scale.px(text_margin);
     const int top = lines == TextLines::Many ? scale.px(text_top_margin) : scale.stroke();
-    return box.adjusted(side, top, -side, -top);
+    return box.adjusted(side, top, -side, -scale.stroke());
 }
 
 void label(QPainter& painter, const Scale& scale, const QRect& box, const LabelState& state,

@@ -78,7 +78,7 @@ void glass_text_box(QPainter& painter, const Scale& scale, const QRect& box,
                     const ControlState& state);
 
 // Where the text of a text box stands: 7 px from the sides; one with several lines starts
-// 6 px below the top.
+// 6 px below the top, and may fill the box down to its edge.
 enum class TextLines { One, Many };
 QRect text_box_interior(const Scale& scale, const QRect& box, TextLines lines);
 
