@@ -231,6 +231,7 @@ void PlayOrder::Command9_Click() {
     between_.EnableControls(Reselect::no);
 
     if (program.settings.Mode == PlayMode::Manual) {
+        if (program.SwitchingSong) return;  // the list would move and not be heard
         const std::size_t below = f.File1.selected() ? *f.File1.selected() + 1 : 0;
         if (below >= f.File1.count()) return;
         display_.StopAnimation();
