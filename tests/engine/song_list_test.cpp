@@ -172,7 +172,18 @@ TEST_P(SongLists, ADriveThatCannotBeReadGivesWayToTheOneOfTheStart) {
     EXPECT_EQ(world.form.Drive1.drive().root, first);
     EXPECT_EQ(world.form.Dir1.path(), first);
 
+    world.messages.while_open = [&] {
+        world.hand_over(world.path("Aria.mid"));
+        world.form.Timer5.on_tick();
+    };
+    world.form.Drive1.choose(1);
+    world.messages.while_open = nullptr;
+    EXPECT_EQ(world.form.Dir1.path(), world.folder) << "to where a song has been handed over";
+    EXPECT_EQ(world.open_song(), "Aria.mid");
+    EXPECT_EQ(world.form.Drive1.drive().root, first);
+
     world.files.deny(first);
+    world.happened();
     world.form.Drive1.choose(1);
     EXPECT_EQ(world.happened(), Log{"message: Error - Drive May Be Unavailable. [Drive Error]"});
     EXPECT_EQ(world.form.Drive1.drive().root, first) << "the one whose folder is shown";

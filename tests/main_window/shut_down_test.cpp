@@ -71,6 +71,7 @@ TEST(ShutDown, AsksNobodyAtTheEndOfTheSession) {
     world.form.request_unload(CloseReason::session_end);
     EXPECT_EQ(world.happened().front(), "notes closed");
     EXPECT_TRUE(world.written());
+    EXPECT_TRUE(world.program.SessionEnded) << "nor does what goes wrong on the way out";
 }
 
 TEST(ShutDown, TheEndOfTheSessionOverridesAnOpenQuestion) {

@@ -71,17 +71,21 @@ TEST_F(MessageBoxTest, AQuestionHasYesAndNoAndEnterMeansNo) {
     }
 }
 
-TEST_F(MessageBoxTest, TheCloseBoxNeverAgreesAndNobodyIsAskedWhileTheProgramEnds) {
+TEST_F(MessageBoxTest, TheCloseBoxNeverAgreesAndNobodyIsAskedWhileTheProgramEndsOrAfterTheSession) {
     const auto close = [](dlgbox& box) { EXPECT_TRUE(box.request_unload(CloseReason::user)); };
     EXPECT_EQ(show("Really?", 1, close), Answer::no);
     EXPECT_EQ(show("Done.", 0, close), Answer::ok);
     EXPECT_EQ(program.CurrentForm, FormNumber::Main);
+
     log.clear();
-    program.Ending = true;
-    const auto never = [](dlgbox&) { FAIL(); };
-    EXPECT_EQ(show("Really?", 1, never), Answer::no);
-    EXPECT_EQ(show("Done.", 0, never), Answer::ok);
-    EXPECT_EQ(log, Log());
+    for (bool Program::*const over : {&Program::Ending, &Program::SessionEnded}) {
+        program.*over = true;
+        const auto never = [](dlgbox&) { FAIL(); };
+        EXPECT_EQ(show("Really?", 1, never), Answer::no);
+        EXPECT_EQ(show("Done.", 0, never), Answer::ok);
+        EXPECT_EQ(log, Log());
+        program.*over = false;
+    }
 }
 
 TEST_F(MessageBoxTest, ShortTextsAreLargeAndStartOneLineDown) {

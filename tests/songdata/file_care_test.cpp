@@ -116,12 +116,14 @@ TEST_P(FileCareTest, RenamedSongHasItsNewPlaceInTheCycleOrNone) {
     choose("a.mid", PlayMode::Alpha);
     rename("c.mid");
     EXPECT_EQ(World::names(world.form.List1), (Log{"b.mid", "c.mid", "SONG.RMI"}));
+    rename("aa.mid");
+    EXPECT_EQ(World::names(world.form.List1), (Log{"aa.mid", "b.mid", "SONG.RMI"}));
     world.midi.finish();
     world.run_for(1000);
     EXPECT_EQ(world.played(), Log{"b.mid"}) << "which would have been next";
 
-    choose("c.mid");
-    rename("c.wav");
+    choose("aa.mid");
+    rename("aa.wav");
     EXPECT_EQ(World::names(world.form.File1), (Log{"b.mid", "SONG.RMI"}));
     EXPECT_EQ(world.open_song(), "") << "it is not listed any more";
     world.expect_flags_at_rest();
