@@ -107,6 +107,12 @@ bool looks_like_chunk(MidiBytes file, std::size_t at) {
                        [](std::uint8_t byte) { return std::isprint(byte) != 0; });
 }
 
+// Are there a chunk and, where it says that it ends, another or the end of the file?
+bool is_whole_chunk(MidiBytes file, std::size_t at) {
+    return at < file.size() && looks_like_chunk(file, at) &&
+           looks_like_chunk(file, at + kChunkHeader + big_endian(file, at + 4, 4));
+}
+
 // Goes through the chunks of a file and reads the tracks among them.
 class ChunkReader {
   public:
@@ -125,10 +131,12 @@ class ChunkReader {
     }
 
   private:
-    // A length is believed when it leads to another track or to the end of the file. Otherwise
-    // the track may go on up to whatever is sure to be another, and tells by itself where it ends.
+    // A length is believed when it leads to another track, to a chunk that leads on, or to the end
+    // of the file. Otherwise the track may go on up to whatever is sure to be another, and tells by
+    // itself where it ends.
     TrackEnd read_track(MidiSong& song, std::size_t begin, std::size_t claimed_end) {
-        const bool sure = claimed_end == file_.size() || has_name(file_, claimed_end, "MTrk");
+        const bool sure = claimed_end == file_.size() || has_name(file_, claimed_end, "MTrk") ||
+                          is_whole_chunk(file_, claimed_end);
         const std::size_t limit = sure ? claimed_end : find_name(file_, begin, "MTrk");
         const TrackEnd end = read_midi_track(file_.subspan(begin, limit - begin), song);
         const std::size_t stopped = begin + end.bytes;

@@ -142,6 +142,7 @@ TEST(StandardMidiFile, NeitherTheTrackCountNorUnknownChunksNorAMissingEndOfTrack
         Bytes file = header(0, claimed, kTicksAreMilliseconds);
         append(file, chunk("XFIH", {0, 0x90, 1, 1, 'M', 'T', 'r', 'k'}));
         append(file, chunk("MTrk", Track().at(3).note_on(0, 1, 1).bytes()));
+        append(file, chunk("XFKM", {'a', 'b', 'c'}));  // would do as notes, too
         append(file, chunk("MTrk", Track().at(4).note_on(1, 2, 2).end_at(5).bytes()));
         append(file, chunk("XFKM", {'a', 'b', 'c'}));
         append(file, chunk("MTrk", Track().at(9).text("the end").bytes()));
