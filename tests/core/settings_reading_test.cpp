@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cctype>
 #include <tuple>
-#include <utility>
-#include <vector>
 
 namespace zephyne::test {
 namespace {

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <random>
-#include <utility>
-#include <vector>
 
 namespace zephyne::test {
 namespace {

@@ -10,8 +10,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QTextEdit>
-#include <string>
-#include <vector>
 
 namespace zephyne::test {
 namespace {

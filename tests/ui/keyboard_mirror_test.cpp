@@ -7,7 +7,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <algorithm>
-#include <vector>
 
 namespace zephyne::test {
 namespace {

@@ -11,7 +11,6 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QTemporaryDir>
-#include <string>
 
 namespace zephyne::test {
 namespace {

@@ -7,8 +7,6 @@
 #include <QElapsedTimer>
 #include <QPaintEvent>
 #include <QTimer>
-#include <memory>
-#include <string>
 
 namespace zephyne::test {
 namespace {
