@@ -21,7 +21,7 @@ TEST(Tooltips, FollowTheSettingAndLeaveThePresetsAlone) {
     ProgramWorld world;
     world.load("Mode=Manual\r\nPresetFileName03=rag.mid\r\n");
     const Tips all = tips_of(world.form);
-    EXPECT_EQ(all.size(), 52U) << "all that can be clicked, and all that shows something";
+    EXPECT_EQ(all.size(), 53U) << "all that can be clicked, and all that shows something";
     const Tips some = {{"Command14", "Remember volume setting for this file"},
                        {"Label16", "Lock volume sliders"},
                        {"Command4", "Delete current file"},
