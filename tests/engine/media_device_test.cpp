@@ -28,7 +28,14 @@ class Device : public testing::Test {
 
 TEST_F(Device, DoneTellsHowAPlayCameToItsEnd) {
     play("a.mid");
-    world.run_for(180'000);
+    world.run_for(60'000);
+    device.PauseDevice();
+    world.run_for(600'000);
+    EXPECT_EQ(device.Position(), 60'000);
+    device.ResumeDevice();
+    world.run_for(119'999);
+    EXPECT_EQ(world.happened(), (Log{"pause a.mid", "play a.mid", "Done 2"}));
+    world.run_for(1);
     EXPECT_EQ(world.happened(), Log{"Done 1"});
     device.From = 0;
     device.command(DeviceCommand::Play);

@@ -108,6 +108,7 @@ TEST_P(SongLists, AnotherFolderInManualModeStopsAndWaits) {
     EXPECT_EQ(world.form.Text1.text(), "");
     EXPECT_EQ(world.counts(), "1, N/A");
     EXPECT_EQ(world.program.CurrentSongName, "Aria.mid");
+    EXPECT_EQ(world.program.RecentSongs[0].name, "Aria.mid");
 }
 
 TEST_P(SongLists, AFolderWithoutSongsLeavesNoCurrentSong) {

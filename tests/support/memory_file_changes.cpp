@@ -94,9 +94,7 @@ FileResult<void> MemoryFileSystem::give_place(Node& file, const std::string& to)
 }
 
 FileResult<void> MemoryFileSystem::rename_file(const std::string& from, const std::string& to) {
-    const auto file = open_for_reading(from);
-    if (!file) return tl::unexpected(file.error());
-    return give_place(**file, to);
+    return open_for_reading(from).and_then([&](Node* file) { return give_place(*file, to); });
 }
 
 FileResult<void> MemoryFileSystem::move_file(const std::string& from, const std::string& to) {
