@@ -255,11 +255,16 @@ int main(int argc, char** argv) {
     fonts.wait();
     Zephyne zephyne(file_system, scheduler, hand_over);
 
-    const SignalWatcher watcher([&] { zephyne.end(CloseReason::session_end); });
-    QObject::connect(&application, &QGuiApplication::commitDataRequest,
-                     [&](QSessionManager& session) {
-                         if (!zephyne.end(CloseReason::user)) session.cancel();
-                     });
+    const SignalWatcher watcher([&] {
+        zephyne.end(CloseReason::session_end);
+        QCoreApplication::exit(0);  // also out of a message that an earlier quit has led to
+    });
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, [&](QSessionManager& session) {
+            const bool may_ask = session.allowsInteraction();
+            const bool ended = zephyne.end(may_ask ? CloseReason::user : CloseReason::session_end);
+            if (!ended) session.cancel();
+        });
     QTimer::singleShot(0, &application, [&] {
         if (zephyne.start(line) == Started::ended) QCoreApplication::exit(0);
     });

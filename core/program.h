@@ -55,7 +55,8 @@ struct Program {
     Settings settings;
     ProgramFolders folders;
     std::int16_t CurrentForm = FormNumber::Main;
-    bool Ending = false;  // the program has been shut down; what is still on the stack unwinds
+    bool SessionEnded = false;  // nobody is there any more to answer a message
+    bool Ending = false;        // the program is shut down; what is still on the stack unwinds
 
     // The song that the device holds or is about to hold.
     std::string CurrentSongName;      // as listed; a full path for a song from the queue

@@ -58,6 +58,12 @@ void put_in_place(Form& form, const WindowHost& windows, Corner saved, Corner us
     form.move_to(corner.left, corner.top);
 }
 
+void bring_back(Form& form, WindowHost& windows) {
+    form.set_state(WindowState::normal);
+    form.set_visible(true);
+    windows.bring_to_front(form);
+}
+
 Corner reachable(const Place& place, const std::vector<Place>& screens) {
     const Corner wanted{place.left, place.top};
     const auto grips = [&](const Place& screen) { return can_be_gripped(place, screen); };

@@ -1,5 +1,5 @@
 // Where a window comes up: where it was closed last, but always where the mouse can take hold of
-// it.
+// it. And how it comes back.
 #pragma once
 
 #include "core/ports/window_host.h"
@@ -27,6 +27,9 @@ void centre(Form& form, const WindowHost& windows);
 // usual one. A corner saved on another scale or on a screen that is gone is not taken as it is:
 // see reachable().
 void put_in_place(Form& form, const WindowHost& windows, Corner saved, Corner usual);
+
+// Brings the form back from wherever it is, hidden or minimised, in front and with the keyboard.
+void bring_back(Form& form, WindowHost& windows);
 
 // The corner of that place while enough of its title bar lies on one of the screens. Otherwise that
 // of the nearest place on the screen that shows most of the window, or on the first one. Without

@@ -18,18 +18,30 @@ void HandOverPoll::tell(std::string text) {
     stage_.messages.ShowDlgMessage(std::move(text), 0, "Error");
 }
 
+void HandOverPoll::poke(std::string command_line) {
+    if (queueing()) queue_waiting_song();
+    stage_.form.Label15.set_caption(std::move(command_line));
+}
+
+bool HandOverPoll::queueing() const {
+    return stage_.settings().Mode == PlayMode::Queue;
+}
+
+void HandOverPoll::queue_waiting_song() {
+    Form1& f = stage_.form;
+    if (f.Label15.caption().empty()) return;
+    f.List2.add({f.Label15.caption(), {}});
+    f.Label15.set_caption("");
+}
+
 void HandOverPoll::Timer5_Timer() {
     Program& program = stage_.program;
     Form1& f = stage_.form;
-    const bool queueing = program.settings.Mode == PlayMode::Queue;
-    if (queueing) f.Command19.set_enabled(!f.List2.empty());
-    if (f.Label15.caption().empty()) return;
-
-    if (queueing) {
-        f.List2.add({f.Label15.caption(), {}});
-        f.Label15.set_caption("");
-        return;
+    if (queueing()) {
+        f.Command19.set_enabled(!f.List2.empty());
+        return queue_waiting_song();
     }
+    if (f.Label15.caption().empty()) return;
     // A song on its way is started first; the one handed over then follows with the next tick.
     if (program.SwitchingSong || program.AutoStarting || program.DelayActive) return;
 

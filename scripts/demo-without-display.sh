@@ -33,6 +33,10 @@ for ((second = 0; second < seconds; ++second)); do
     kill -0 "$program" 2>/dev/null || { echo "Zephyne ended by itself:"; cat "$out/zephyne.log"; exit 1; }
     sleep 1
     xdotool search --onlyvisible --name '^Zephyne' getwindowname >>"$titles" 2>/dev/null || true
+    # The tip of the day is read, and lies before the picture no longer.
+    if ((second == 4)) && xdotool search --onlyvisible --name '^Zephyne Quick Tip' >/dev/null 2>&1; then
+        xdotool key Escape
+    fi
     if ((second == 12)); then import -window root "$out/zephyne.png"; fi
 done
 

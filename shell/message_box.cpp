@@ -49,7 +49,7 @@ void show_buttons(dlgbox& box, bool question) {
 Answer MessageBox::ShowDlgMessage(std::string text, std::int16_t flags, std::string title) {
     const bool question = flags != 0;
     Answer answer = question ? Answer::no : Answer::ok;
-    if (program_.Ending) return answer;
+    if (program_.SessionEnded || program_.Ending) return answer;
 
     dlgbox box(scheduler_);
     box.load();

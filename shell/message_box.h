@@ -14,8 +14,8 @@ class MessageBox final : public Messages {
         : program_(program), scheduler_(scheduler), windows_(windows), beeper_(beeper) {}
 
     // Shows the box in the middle of the screen and waits for the answer. Closing a question by
-    // its close box, or by Escape, answers No; a notice has no other answer than OK. While the
-    // program ends nobody is asked.
+    // its close box, or by Escape, answers No; a notice has no other answer than OK. At the end of
+    // the session, and while the program ends, nobody is asked: that answers the same.
     Answer ShowDlgMessage(std::string text, std::int16_t flags, std::string title) override;
 
   private:

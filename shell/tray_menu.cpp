@@ -1,6 +1,7 @@
 #include "shell/tray_menu.h"
 
 #include "core/text/numbers.h"
+#include "core/window_placing.h"
 #include "engine/recent_songs.h"
 
 #include <string>
@@ -71,12 +72,6 @@ void TrayMenu::Timer2_Timer() {
     area_.show_menu();
 }
 
-void TrayMenu::bring_forward(Form& form) {
-    form.set_state(WindowState::normal);
-    form.set_visible(true);
-    windows_.bring_to_front(form);
-}
-
 void TrayMenu::Show(ShownBy by) {
     Form& main = stage_.form;
     main.set_state(WindowState::normal);
@@ -88,10 +83,11 @@ void TrayMenu::Show(ShownBy by) {
     if (stage_.program.CurrentForm != FormNumber::Main) {
         if (by == ShownBy::double_click) stage_.events.pump();
         if (stage_.program.Ending) return;
-        if (Form* over = windows_.find(form_name(stage_.program.CurrentForm))) bring_forward(*over);
+        Form* over = windows_.find(form_name(stage_.program.CurrentForm));
+        if (over) bring_back(*over, windows_);
     }
     // With the focus last, as nothing else takes input.
-    if (Form* modal = windows_.modal_form()) bring_forward(*modal);
+    if (Form* modal = windows_.modal_form()) bring_back(*modal, windows_);
 }
 
 void TrayMenu::Timer1_Timer() {

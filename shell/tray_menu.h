@@ -44,7 +44,6 @@ class TrayMenu {
     void Timer1_Timer();
     void Timer2_Timer();
     void Show(ShownBy by);
-    void bring_forward(Form& form);
     bool next_song_possible() const;
     std::string tooltip() const;
     std::string place_in_round() const;

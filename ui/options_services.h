@@ -17,7 +17,7 @@ struct OptionsServices {
     std::function<void()> unload_quick_tip;  // closes the tip of the day
 
     std::function<bool()> tips_at_start;  // whether the tip of the day shows at start
-    std::function<void(bool)> set_tips_at_start;
+    std::function<void(bool wanted)> set_tips_at_start;
 
     std::function<void()> show_about;
     std::function<void()> ask_whats_this;  // the next click asks for help

@@ -12,7 +12,11 @@ ShutDown::ShutDown(Stage& stage, Engine& engine) : stage_(stage), engine_(engine
 }
 
 void ShutDown::Form_QueryUnload(CloseReason reason, bool& cancel) {
-    if (reason == CloseReason::session_end || stage_.settings().ConfirmExit != 1) return;
+    if (reason == CloseReason::session_end) {
+        stage_.program.SessionEnded = true;
+        return;
+    }
+    if (stage_.settings().ConfirmExit != 1) return;
     cancel = stage_.messages.ShowDlgMessage("Are you sure you want to quit Zephyne?", 1,
                                             "Confirm Exit") != Answer::yes;
 }

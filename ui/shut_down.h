@@ -13,7 +13,8 @@ class ShutDown {
   public:
     ShutDown(Stage& stage, Engine& engine);
 
-    // "Quit", the close box: asks when ConfirmExit is on. The end of the session does not ask.
+    // "Quit", the close box: asks when ConfirmExit is on. The end of the session does not ask, and
+    // from then on no message holds it up.
     void Form_QueryUnload(CloseReason reason, bool& cancel);
 
     // Stops the song, writes the settings, stops the timers, and ends the program.

@@ -28,16 +28,16 @@ StartUp::StartUp(Stage& stage, Engine& engine, MainWindowLayout& layout, WindowH
     : stage_(stage), engine_(engine), layout_(layout), windows_(windows), hand_over_(hand_over) {
     stage_.form.on_activate = [this] { Form_Activate(); };
     stage_.form.on_resize = [this] { layout_.Form_Resize(); };
-    hand_over_.on_poke = [this](std::string text) {
-        stage_.form.Label15.set_caption(std::move(text));
+    hand_over_.on_poke = [this](std::string command_line) {
+        engine_.hand_over.poke(std::move(command_line));
     };
     hand_over_.on_bring_forward = [this] { come_forward(); };
 }
 
 void StartUp::come_forward() {
-    stage_.form.set_visible(true);
-    stage_.form.set_state(WindowState::normal);
-    windows_.bring_to_front(stage_.form);
+    bring_back(stage_.form, windows_);
+    // What waits for an answer comes with it, or the main window would seem dead.
+    if (Form* modal = windows_.modal_form()) bring_back(*modal, windows_);
 }
 
 Started StartUp::Form_Load(const std::string& command_line) {

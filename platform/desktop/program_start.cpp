@@ -60,6 +60,11 @@ std::string installed_data(const FileSystem& files, const StartSurroundings& sur
     return {};
 }
 
+// What a session manager appends when it starts again what ran at the last log-off.
+bool names_a_session(std::span<const char* const> arguments) {
+    return arguments.size() == 2 && arguments[0] == std::string_view("-session");
+}
+
 }  // namespace
 
 StartSurroundings start_surroundings() {
@@ -109,7 +114,8 @@ std::string command_line(const FileSystem& files, std::span<const char* const> a
         line += argument;
     }
     if (line.empty() || line.starts_with(separator(files.path_style()))) return line;
-    return files.resolve(line).value_or(line);
+    if (auto absolute = files.resolve(line)) return *absolute;
+    return names_a_session(arguments) ? "" : line;
 }
 
 }  // namespace zephyne

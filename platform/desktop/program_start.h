@@ -31,7 +31,8 @@ ProgramFolders program_folders(const FileSystem& files, const StartSurroundings&
 
 // The command line as one text: the arguments (those behind the program's name), joined by blanks.
 // The relative path of a file or folder that is there becomes absolute, so that it means the same
-// to another copy of the program; thus "--help" stays what it is unless a file is called so.
+// to another copy of the program; thus "--help" stays what it is unless a file is called so. Empty,
+// as without arguments, for "-session ID", with which a session manager restores the program.
 std::string command_line(const FileSystem& files, std::span<const char* const> arguments);
 
 }  // namespace zephyne

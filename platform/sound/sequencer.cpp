@@ -18,6 +18,12 @@ void Sequencer::open(const MidiSong* song) {
     end_frame_ = song ? frame_at(song->length) : 0;
 }
 
+void Sequencer::open_at_end(const MidiSong& song) {
+    open(&song);
+    frame_ = end_frame_;
+    send_all_but_notes_before(end_frame_ + 1);
+}
+
 bool Sequencer::event_before(FrameCount frame) const {
     return song_ && next_ < song_->events.size() && frame_at(song_->events[next_].time) < frame;
 }
@@ -26,11 +32,15 @@ void Sequencer::seek(FrameCount frame) {
     frame_ = std::clamp<FrameCount>(frame, 0, end_frame_);
     next_ = 0;
     sink_.begin_seek();
-    while (event_before(frame_)) {
+    send_all_but_notes_before(frame_);
+    sink_.end_seek();
+}
+
+void Sequencer::send_all_but_notes_before(FrameCount frame) {
+    while (event_before(frame)) {
         const MidiEvent& event = song_->events[next_++];
         if (!is_note(event)) send(event);
     }
-    sink_.end_seek();
 }
 
 void Sequencer::send_due_events() {

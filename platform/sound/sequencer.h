@@ -25,6 +25,9 @@ class Sequencer {
     // frame are still due.
     void seek(FrameCount frame);
 
+    // Takes up the song at its end, the sink having been told all of it but the notes.
+    void open_at_end(const MidiSong& song);
+
     void send_due_events();                  // all up to and with the current frame
     FrameCount frames_to_next_stop() const;  // to the next event or the end; 0 when due
     void advance(FrameCount frames) { frame_ += frames; }  // at most frames_to_next_stop()
@@ -35,6 +38,7 @@ class Sequencer {
 
   private:
     bool event_before(FrameCount frame) const;
+    void send_all_but_notes_before(FrameCount frame);
     void send(const MidiEvent& event);
 
     MidiSink& sink_;

@@ -12,6 +12,8 @@ namespace {
 
 // A song, however short, is in mode playing for about this long.
 constexpr Milliseconds kShortestPlay = 30;
+// How late the sound of a song may be that is waited for.
+constexpr Milliseconds kLongestDelay = 250;
 // How often the end is looked for when it is overdue.
 constexpr Milliseconds kOverdueCheck = 5;
 
@@ -93,13 +95,14 @@ void SequencerBackend::stop() {
 void SequencerBackend::wait_until_finished() {
     if (mode_ != DeviceMode::playing) return;
     const auto deadline =
-        SteadyClock::now() + std::chrono::milliseconds(length_ - position() + 1000);
+        SteadyClock::now() + std::chrono::milliseconds(length_ - position() + kLongestDelay);
     while (engine_.ready() && !finished() && SteadyClock::now() < deadline) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
     if (finished()) {
         stand_still(DeviceMode::stopped);
     } else {
+        engine_.tell_before_next_wish(song_);
         stop();
     }
 }

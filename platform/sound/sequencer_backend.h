@@ -2,7 +2,9 @@
 // program's synthesizer.
 //
 // A song that is played before the sound font is loaded waits for it, in mode playing, at its
-// place. The user-interface thread never waits, except in wait_until_finished().
+// place. The user-interface thread never waits, except in wait_until_finished(): there a song that
+// finds no sound to be played with, because that is not loaded or the output is slow to open, is
+// passed on unheard.
 #pragma once
 
 #include "core/scheduler.h"
@@ -26,7 +28,9 @@ class SequencerBackend final : public MediaBackend, private SynthesizerEngine::P
     void pause() override;
     void stop() override;
 
-    // Also returns at once, with the song stopped, when the sound font is not loaded yet.
+    // Also returns, with the song stopped, when the sound font is not loaded yet (at once), or when
+    // the output gives no sound (a quarter of a second late). The synthesizer is then told all but
+    // the notes before whatever is played next.
     void wait_until_finished() override;
 
     DeviceMode mode() const override { return mode_; }

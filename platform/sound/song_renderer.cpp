@@ -70,9 +70,8 @@ int SongRenderer::render_piece(float* left, float* right, int frames) {
 
 void SongRenderer::ring(const float* left, const float* right, int frames) {
     ringing_frames_ += frames;
-    const bool died_away = synthesizer_.flow() == SoundFlow::heard && !synthesizer_.has_voices() &&
-                           !synthesizer_.bridging() && inaudible(left, frames) &&
-                           inaudible(right, frames);
+    const bool died_away = !synthesizer_.has_voices() && !synthesizer_.bridging() &&
+                           inaudible(left, frames) && inaudible(right, frames);
     if (!died_away && ringing_frames_ < kLongestRing) return;
     synthesizer_.cut_notes();
     enter(Activity::silent, SoundFlow::frozen);
@@ -85,13 +84,15 @@ void SongRenderer::enter(Activity activity, SoundFlow flow) {
 }
 
 void SongRenderer::obey(const PlayWish& wish) {
-    const bool other_song = wish.song_serial != wish_.song_serial;
+    const bool before = wish.before_serial != wish_.before_serial;
+    const bool other_song = before || wish.song_serial != wish_.song_serial;
     const bool cut = wish.cut_serial != wish_.cut_serial;
     const bool go = wish.seek_serial != wish_.seek_serial;
     wish_ = wish;
     finished_ = false;
 
     if (other_song || cut || wish.state == PlayWish::State::stopped) end_sound();
+    if (before) sequencer_.open_at_end(*wish.before);
     if (other_song) {
         sequencer_.open(wish.song);
         if (wish.song) synthesizer_.remember_state();
@@ -103,12 +104,16 @@ void SongRenderer::obey(const PlayWish& wish) {
     }
 }
 
-// A song that was paused was silent already, and what is left in the room stays unheard.
+// A song that was paused was silent already: what it left in the room must not be heard with the
+// next one.
 void SongRenderer::end_sound() {
-    if (activity_ != Activity::playing && activity_ != Activity::paused) return;
-    const bool heard = activity_ == Activity::playing;
-    synthesizer_.cut_notes();
-    enter(Activity::ringing, heard ? SoundFlow::heard : SoundFlow::muted);
+    if (activity_ == Activity::playing) {
+        synthesizer_.cut_notes();
+        enter(Activity::ringing, SoundFlow::heard);
+    } else if (activity_ == Activity::paused) {
+        synthesizer_.empty_room();
+        enter(Activity::silent, SoundFlow::frozen);
+    }
 }
 
 // A song that stands where it shall go is left alone: seeking there would only take away what

@@ -21,11 +21,13 @@ namespace zephyne {
 struct PlayWish {
     enum class State { stopped, paused, playing };
 
-    std::uint64_t number = 0;        // counts the wishes
-    const MidiSong* song = nullptr;  // none: silence. Must stay until a later wish is answered.
-    std::uint64_t song_serial = 0;   // take up that song, at its start
-    std::uint64_t cut_serial = 0;    // end the notes that sound now, whatever the state
-    std::uint64_t seek_serial = 0;   // go to that place
+    std::uint64_t number = 0;          // counts the wishes
+    const MidiSong* song = nullptr;    // none: silence. Must stay until a later wish is answered.
+    std::uint64_t song_serial = 0;     // take up that song, at its start
+    const MidiSong* before = nullptr;  // must stay like the song
+    std::uint64_t before_serial = 0;   // be told all of this first, but for its notes
+    std::uint64_t cut_serial = 0;      // end the notes that sound now, whatever the state
+    std::uint64_t seek_serial = 0;     // go to that place
     FrameCount seek_frame = 0;
     State state = State::stopped;
 };
@@ -62,7 +64,7 @@ class SongRenderer final : public AudioSource {
         silent,
         playing,
         paused,   // in the middle of sounding notes
-        ringing,  // notes and room die away, heard or not
+        ringing,  // notes and room die away
     };
 
     void obey(const PlayWish& wish);

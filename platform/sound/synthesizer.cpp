@@ -17,6 +17,8 @@ constexpr int kEveryChannel = -1;
 constexpr int kSustainPedal = 64;
 constexpr int kSostenutoPedal = 66;
 constexpr int kResetAllControllers = 121;
+constexpr int kAllNotesOff = 123;
+constexpr int kFirstModeMessage = 124;  // omni off and on, mono, poly
 
 // The library's messages are for its own developers; what concerns a user is said by the callers.
 void ignore_message(int, const char*, void*) {}
@@ -74,6 +76,9 @@ void Synthesizer::controller(int channel, int number, int value) {
         told_.key_pressure[channel].fill(0);
         told_.channel_pressure[channel] = 0;
     }
+    // All 16 channels are played, whatever a mode message says: the library would let one for the
+    // first channel silence all others. What is left of it is that it ends the channel's notes.
+    if (number >= kFirstModeMessage) number = kAllNotesOff;
     fluid_synth_cc(synth_.get(), channel, number, value);
 }
 
@@ -131,6 +136,17 @@ void Synthesizer::cut_notes() {
     end_all_voices();
 }
 
+// Only a reset takes the reverb out of the library; what it was told before is told again. The
+// voices go first, or their last moments would be in the room again.
+void Synthesizer::empty_room() {
+    release_notes();
+    end_all_voices();
+    SynthesizerState now;
+    now.capture(synth_.get(), told_);
+    now.restore(synth_.get());
+    end_all_voices();
+}
+
 // The library renders in blocks of 64 frames, and goes on with the one that it has begun: two
 // blocks are rendered for nobody.
 void Synthesizer::end_all_voices() {
@@ -142,22 +158,20 @@ void Synthesizer::end_all_voices() {
 
 void Synthesizer::set_flow(SoundFlow flow) {
     if (flow == flow_) return;
-    // Out of silence into silence there is nothing to bridge, and the first note of a song keeps
-    // its attack.
-    const bool silent = flow_ == SoundFlow::frozen && !has_voices() && !bridging();
-    if (!silent) bridge();
+    bridge();
     flow_ = flow;
 }
 
+// Out of silence there is nothing to bridge, and the first note of a song keeps its attack.
 void Synthesizer::bridge() {
+    if (flow_ == SoundFlow::frozen && !has_voices() && !bridging()) return;
     bridge_.begin([this](float* left, float* right, int frames) { render(left, right, frames); });
 }
 
 void Synthesizer::render(float* left, float* right, int frames) {
-    if (flow_ != SoundFlow::frozen) {
+    if (flow_ == SoundFlow::heard && synth_) {
         fluid_synth_write_float(synth_.get(), frames, left, 0, 1, right, 0, 1);
-    }
-    if (flow_ != SoundFlow::heard || !synth_) {
+    } else {
         std::fill_n(left, frames, 0.0F);
         std::fill_n(right, frames, 0.0F);
     }

@@ -22,7 +22,6 @@ namespace zephyne {
 
 enum class SoundFlow {
     heard,
-    muted,   // goes on unheard
     frozen,  // stands still and silent; the very notes go on afterwards
 };
 
@@ -56,6 +55,7 @@ class Synthesizer final : public MidiSink {
 
     void release_notes();  // lifts all keys and pedals; the notes die away
     void cut_notes();      // ends them at once; what is in the room dies away
+    void empty_room();     // ends that, too; only while nothing is heard
 
     void set_flow(SoundFlow flow);
     SoundFlow flow() const { return flow_; }  // frozen at first

@@ -61,14 +61,10 @@ std::uint64_t SynthesizerEngine::submit(Player& player, PlayWish wish,
     player_ = &player;
     wish.number = next_serial();
     wish.song = song.get();
-
-    const auto known = std::find_if(songs_.begin(), songs_.end(),
-                                    [&](const HandedOver& entry) { return entry.song == song; });
-    if (known != songs_.end()) {
-        known->number = wish.number;
-    } else if (song) {
-        songs_.push_back({wish.number, std::move(song)});
-    }
+    wish.before = before_.get();
+    wish.before_serial = before_serial_;
+    keep(wish.number, song);
+    keep(wish.number, before_);
     renderer_.submit(wish);
     drop_unused_songs();
     if (wish.state == PlayWish::State::playing) {
@@ -76,6 +72,21 @@ std::uint64_t SynthesizerEngine::submit(Player& player, PlayWish wish,
         problem_check_.set_enabled(true);
     }
     return wish.number;
+}
+
+void SynthesizerEngine::tell_before_next_wish(std::shared_ptr<const MidiSong> song) {
+    before_ = std::move(song);
+    before_serial_ = next_serial();
+}
+
+void SynthesizerEngine::keep(std::uint64_t number, const std::shared_ptr<const MidiSong>& song) {
+    const auto known = std::find_if(songs_.begin(), songs_.end(),
+                                    [&](const HandedOver& entry) { return entry.song == song; });
+    if (known != songs_.end()) {
+        known->number = number;
+    } else if (song) {
+        songs_.push_back({number, song});
+    }
 }
 
 void SynthesizerEngine::leave(const Player& player) {

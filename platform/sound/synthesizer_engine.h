@@ -70,6 +70,10 @@ class SynthesizerEngine {
     // on. The song of the wish is kept as long as it is in use.
     std::uint64_t submit(Player& player, PlayWish wish, std::shared_ptr<const MidiSong> song);
 
+    // The synthesizer is told all of the song but its notes, together with the next wish and before
+    // that. For a song that has to have been played, though there was no sound to play it with.
+    void tell_before_next_wish(std::shared_ptr<const MidiSong> song);
+
     bool belongs_to(const Player& player) const { return player_ == &player; }
     void leave(const Player& player);  // before a player is destroyed
 
@@ -81,6 +85,7 @@ class SynthesizerEngine {
         std::shared_ptr<const MidiSong> song;
     };
 
+    void keep(std::uint64_t number, const std::shared_ptr<const MidiSong>& song);
     void load();
     std::string load_sound_font();
     void drop_unused_songs();
@@ -89,6 +94,8 @@ class SynthesizerEngine {
     Synthesizer synthesizer_;
     SongRenderer renderer_{synthesizer_};
     std::vector<HandedOver> songs_;
+    std::shared_ptr<const MidiSong> before_;  // goes with every wish, and counts once
+    std::uint64_t before_serial_ = 0;
     Player* player_ = nullptr;
     std::uint64_t serial_ = 0;
 

@@ -152,9 +152,10 @@ void MpvBackend::start_at(Milliseconds place) {
     }
     if (moved || reloaded) {
         seek_ = Seek::requested;
-        player_->set("time-pos", to_seconds(place));
+        player_->set("time-pos", to_seconds(place));  // and goes on when it is there; see note()
+    } else {
+        player_->set("pause", false);
     }
-    player_->set("pause", false);
 }
 
 void MpvBackend::pause() {
@@ -166,9 +167,9 @@ void MpvBackend::stop() {
 }
 
 void MpvBackend::rest(DeviceMode mode) {
-    end_timer_.set_enabled(false);
     if (loaded_) player_->set("pause", true);
     place_ = position();
+    end_timer_.set_enabled(false);  // only now: while it runs, the library is not where we are
     mode_ = mode;
 }
 
@@ -211,7 +212,11 @@ void MpvBackend::note(const mpv_event& event) {
             if (seek_ == Seek::requested) seek_ = Seek::started;
             break;
         case MPV_EVENT_PLAYBACK_RESTART:
-            if (seek_ == Seek::started) seek_ = Seek::none;
+            if (seek_ != Seek::started) break;
+            seek_ = Seek::none;
+            // Not before: else the sound of the old place would be heard for a moment, also when
+            // the file is only moved and shall not sound at all.
+            if (mode_ == DeviceMode::playing) player_->set("pause", false);
             break;
         case MPV_EVENT_END_FILE: {
             const auto* details = static_cast<const mpv_event_end_file*>(event.data);

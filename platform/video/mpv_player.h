@@ -20,10 +20,10 @@ namespace zephyne {
 class MpvPlayer {
   public:
     // `audio_outputs` is the library's list of outputs to try; a list with a name that it does not
-    // know means silence. `on_events` is called from the
-    // event loop of the thread that creates the player, whenever next_event() may have something
-    // to tell. Nothing when the library cannot start. Needs a QCoreApplication. Sets the numeric
-    // locale to "C", which the library insists on.
+    // know means silence. `on_events` is called from the event loop of the thread that creates the
+    // player, whenever next_event() may have something to tell. Nothing when the library cannot
+    // start. Needs a QCoreApplication. Sets the numeric locale to "C", which the library insists
+    // on.
     static std::unique_ptr<MpvPlayer> create(const std::string& audio_outputs,
                                              std::function<void()> on_events);
     ~MpvPlayer();

@@ -35,6 +35,17 @@ TEST(FirstCopy, ComesForwardFromWhereverItIs) {
     EXPECT_EQ(world.hand_over.sent, Log());
 }
 
+TEST(FirstCopy, ComesForwardWithTheWindowThatWaitsForAnAnswer) {
+    ProgramWorld world;
+    world.load("Mode=Manual\r\n");
+    Form message({.name = "dlgbox"});
+    message.set_state(WindowState::minimized);
+    world.windows.modal = &message;
+    world.hand_over.on_bring_forward();
+    EXPECT_EQ(world.windows.raised, (Log{"Form1", "dlgbox"}));
+    EXPECT_EQ(message.state(), WindowState::normal);
+}
+
 TEST(FirstCopy, PlaysASongHandedOverWithinASecondAndAHalf) {
     ProgramWorld world({"a.mid", "b.mid"});
     world.load("Mode=Manual\r\n");
@@ -87,6 +98,25 @@ TEST(QueuePlayer, CollectsWhatLaterCopiesHandOver) {
     world.form.Command19.click();
     world.form.Command19.click();
     EXPECT_EQ(world.played(), (Log{"a.mid", "c.mid", "b.mid"}));
+}
+
+// As when a file manager opens a whole selection, with one copy of the program for each song.
+TEST(FirstCopy, OfSongsThatComeTogetherTheQueuePlayerCollectsAllAndAnyOtherPlaysTheLast) {
+    const auto hand_over_two = [](ProgramWorld& world) {
+        world.hand_over.on_poke("/music/b.mid");
+        world.hand_over.on_poke("/music/c.mid");
+        world.run_for(1500);
+    };
+    ProgramWorld queue({"a.mid", "b.mid", "c.mid"});
+    queue.load("AutoReset=0\r\n", "/music/a.mid");
+    hand_over_two(queue);
+    EXPECT_EQ(World::names(queue.form.List2),
+              (std::vector<std::string>{"/music/b.mid", "/music/c.mid"}));
+
+    ProgramWorld normal({"a.mid", "b.mid", "c.mid"});
+    normal.load("AutoReset=0\r\nMode=Manual\r\n");
+    hand_over_two(normal);
+    EXPECT_EQ(normal.played(), std::vector<std::string>{"c.mid"});
 }
 
 TEST(QueuePlayer, DoesNotStartWithASongThatCannotBeRead) {

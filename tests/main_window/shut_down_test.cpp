@@ -70,6 +70,7 @@ TEST(ShutDown, TheEndOfTheSessionAsksNobodyAndOverridesAnOpenQuestion) {
     session.form.request_unload(CloseReason::session_end);
     EXPECT_EQ(session.happened().front(), "notes closed");
     EXPECT_TRUE(session.written());
+    EXPECT_TRUE(session.program.SessionEnded) << "nor does what goes wrong on the way out";
     for (const Answer answer : {Answer::yes, Answer::no}) {
         Running world;
         world.messages.answer = answer;

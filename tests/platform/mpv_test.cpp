@@ -149,6 +149,49 @@ TEST_F(MpvBackendTest, PlacesAreExactAndKeptThroughPauseAndStop) {
     EXPECT_EQ(backend_.position(), 0);
 }
 
+TEST_F(MpvBackendTest, SongThatIsHeldWhileItIsMovedStaysAtTheNewPlace) {
+    open_wave(60000);
+    backend_.play();
+    run_for(100);
+    for (const Milliseconds place : {30000, 60000, 10000, 60000}) {
+        backend_.pause();
+        backend_.play_from(place);
+        backend_.pause();
+        EXPECT_EQ(backend_.mode(), DeviceMode::paused);
+        run_for(100);
+        EXPECT_EQ(backend_.position(), place);
+    }
+    backend_.play();
+    run_until_end();
+    EXPECT_EQ(ends_, 1);
+}
+
+// The library writes all that would be heard into a file in the working folder.
+TEST_F(MpvBackendTest, NothingIsHeardOfASongThatIsMovedWhileItIsHeld) {
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder_);
+    const auto heard = [] {
+        std::error_code none_yet;
+        const auto size = std::filesystem::file_size("audiodump.wav", none_yet);
+        return none_yet ? 0 : size;
+    };
+    {
+        MpvBackend backend(scheduler_, "pcm");
+        ASSERT_TRUE(backend.open(file("sound.wav", wave_of(60000))));
+        backend.pause();
+        for (const Milliseconds place : {30000, 10000, 40000, 20000, 50000}) {
+            backend.play_from(place);
+            backend.pause();
+            run_for(50);
+        }
+        EXPECT_LT(heard(), 1000U) << "no more than the head of the file";
+        backend.play();
+        run_for(200);
+        EXPECT_GT(heard(), 10000U);
+    }
+    std::filesystem::current_path(before);
+}
+
 TEST_F(MpvBackendTest, PlayingWhereNothingIsLeftEndsAfterAMoment) {
     open_wave(0);
     EXPECT_EQ(backend_.length(), 0);

@@ -67,6 +67,7 @@ TEST(CommandLine, ArgumentsAreJoinedAndARelativePathThatIsThereBecomesAbsolute) 
     MemoryFileSystem files(PathStyle::posix, "/m");
     files.add_file("My Song.mid");
     files.add_file("--version");
+    files.add_file("-session drummer.mid");
     files.add_file("lists/party.plf");
     const auto line = [&](const std::vector<const char*>& arguments) {
         return command_line(files, arguments);
@@ -78,6 +79,8 @@ TEST(CommandLine, ArgumentsAreJoinedAndARelativePathThatIsThereBecomesAbsolute) 
     EXPECT_EQ(line({"gone", " away.mid"}), "gone  away.mid");
     EXPECT_EQ(line({"--help"}), "--help");
     EXPECT_EQ(line({"--version"}), "/m/--version");
+    EXPECT_EQ(line({"-session", "21a06dfca_1234"}), "") << "restored at log-on";
+    EXPECT_EQ(line({"-session", "drummer.mid"}), "/m/-session drummer.mid");
 }
 
 }  // namespace

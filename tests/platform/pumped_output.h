@@ -5,6 +5,7 @@
 #include "platform/sound/sample_time.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <string>
 #include <utility>
@@ -16,6 +17,7 @@ class PumpedOutput final : public AudioOutput {
     AudioSource* source = nullptr;
     int woken = 0;
     FrameCount at_once = 0;  // what is rendered as soon as there is something to hear
+    float peak = 0;          // the loudest sample on the left
     std::optional<std::string> problem;
 
     void connect(AudioSource& connected) override { source = &connected; }
@@ -30,7 +32,9 @@ class PumpedOutput final : public AudioOutput {
         float left[500];
         float right[500];
         for (; frames > 0; frames -= 500) {
-            source->render(left, right, static_cast<int>(std::min<FrameCount>(frames, 500)));
+            const auto piece = static_cast<int>(std::min<FrameCount>(frames, 500));
+            source->render(left, right, piece);
+            for (int i = 0; i < piece; ++i) peak = std::max(peak, std::fabs(left[i]));
         }
     }
 };

@@ -280,6 +280,42 @@ TEST_F(BackendTest, WhatIsWrongWithTheSoundIsToldOnceEach) {
     EXPECT_EQ(told.size(), 2U);
 }
 
+// A reset that could not be played in time must not be missing from the song after it.
+TEST(SequencerBackend, TellsTheSynthesizerUnheardWhatFoundNoSoundWhileItWasWaitedFor) {
+    if (sound_fonts_in(usual_sound_font_places()).empty()) {
+        GTEST_SKIP() << "this machine has no sound font";
+    }
+    const Folder folder;
+    VirtualClock clock;
+    Scheduler scheduler(clock);
+    auto owned_output = std::make_unique<PumpedOutput>();
+    PumpedOutput& output = *owned_output;
+    SynthesizerEngine engine(scheduler, {}, std::move(owned_output));
+    SequencerBackend backend(scheduler, engine);
+    const auto loudness_after = [&](std::uint8_t master_volume) {
+        const Track reset =
+            Track().at(10).exclusive({0x7F, 0x7F, 4, 1, master_volume, master_volume}).end_at(10);
+        const Track song = Track().note_on(0, 60, 100).end_at(500);
+        EXPECT_TRUE(
+            backend.open(folder.write("reset.mid", smf(0, kTicksAreMilliseconds, {reset}))));
+        backend.play();
+        backend.wait_until_finished();
+        EXPECT_EQ(backend.mode(), DeviceMode::stopped);
+        EXPECT_TRUE(backend.open(folder.write("song.mid", smf(0, kTicksAreMilliseconds, {song}))));
+        backend.play();
+        engine.begin_to_load();
+        wait_until_ready(engine);
+        output.pump(frame_at_millisecond(100));  // the volume glides
+        output.peak = 0;
+        output.pump(frame_at_millisecond(100));
+        backend.close();
+        return output.peak;
+    };
+    EXPECT_EQ(loudness_after(0), 0.0F);  // the sound font is not loaded before the song
+    EXPECT_GT(loudness_after(127), 0.01F);
+    EXPECT_EQ(loudness_after(0), 0.0F);
+}
+
 // With threads, clocks and all.
 TEST(SequencerBackend, PlaysToItsEndInRealTimeOnTheSilentOutput) {
     const Folder folder;

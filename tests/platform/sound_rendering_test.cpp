@@ -77,17 +77,20 @@ TEST_F(RenderingTest, StoppingReleasesTheNotesAlsoWhenPlayFollowsAtOnce) {
     EXPECT_EQ(renderer_.progress().end_frame, frame_at_millisecond(350));
 }
 
-TEST_F(RenderingTest, StoppingAPausedSongIsNotHeard) {
-    open({held_note()});
-    render(300);
-    wish(State::paused);
-    render(10);
-    wish(State::stopped);
-    EXPECT_EQ(render(3100).peak(), 0.0F);
-    EXPECT_TRUE(renderer_.idle());
-    EXPECT_EQ(voices(), 0);
-    open({Track().end_at(1000)});
-    EXPECT_LT(render(1000).peak(), 0.0001F);  // nothing was left in the room
+TEST_F(RenderingTest, StoppingAPausedSongIsNotHeardNeitherAtOnceNorWithTheNextSong) {
+    for (const Milliseconds gap : {0, 1, 500}) {
+        open({held_note()});
+        render(300);
+        wish(State::paused);
+        render(20);
+        const auto left_behind = told_to_all();
+        wish(State::stopped);
+        EXPECT_EQ(render(gap).peak(), 0.0F);
+        EXPECT_EQ(voices() == 0, gap > 0);
+        open({Track().end_at(1000)});
+        EXPECT_LT(render(900).peak(), 0.001F) << gap;  // the note was 40 times as loud, its echo 10
+        expect_told(left_behind);
+    }
 }
 
 TEST_F(RenderingTest, NothingThatTheUserDoesClicks) {

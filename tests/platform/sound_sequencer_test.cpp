@@ -144,6 +144,14 @@ TEST_F(SequencerTest, SeekingBackReplaysFromTheStartAndBeyondTheEndStopsThere) {
     EXPECT_EQ(sink.log, (Lines{"at 882", "program 0 3"}));
 }
 
+TEST_F(SequencerTest, ASongOpenedAtItsEndHasToldAllOfItButTheNotes) {
+    open({Track().program(0, 1).note_on(0, 60, 1).at(30).note_off(0, 60).program(0, 2).end_at(30)});
+    sequencer.open_at_end(song);
+    sequencer.send_due_events();
+    EXPECT_EQ(sink.log, (Lines{"program 0 1", "program 0 2"}));
+    EXPECT_TRUE(sequencer.at_end());
+}
+
 TEST_F(SequencerTest, NothingToPlayIsAtItsEnd) {
     EXPECT_TRUE(sequencer.at_end());
     sequencer.send_due_events();

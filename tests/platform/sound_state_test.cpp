@@ -135,5 +135,24 @@ TEST_F(RenderingTest, AResetMessageResetsEverythingAndChoosesHowBanksAreSelected
         EXPECT_EQ(bank_of(0), c.bank_by_32);
     }
 }
+
+TEST_F(RenderingTest, AModeMessageEndsTheNotesOfItsChannelAndLeavesAllChannelsAlive) {
+    for (const int mode : {124, 125, 126, 127}) {
+        open({Track()
+                  .exclusive(kGmOn)
+                  .program(0, kOcarina)
+                  .program(1, kOcarina)
+                  .note_on(0, 60, 100)
+                  .at(100)
+                  .controller(0, mode, 1)
+                  .at(1000)
+                  .note_on(1, 72, 100)
+                  .end_at(2000)});
+        render(900);
+        EXPECT_EQ(voices(), 0) << mode;
+        render(200);
+        EXPECT_EQ(voices(), 1) << mode;
+    }
+}
 }  // namespace
 }  // namespace zephyne

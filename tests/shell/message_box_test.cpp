@@ -170,13 +170,15 @@ TEST(MessageBox, OneMessageMayLieOverAnother) {
     EXPECT_EQ(desk.program.CurrentForm, FormNumber::Main);
 }
 
-TEST(MessageBox, NobodyIsAskedWhileTheProgramEnds) {
-    Desk desk;
-    desk.program.Ending = true;
-    const auto never = [](dlgbox&) { FAIL(); };
-    EXPECT_EQ(desk.show("Really?", 1, never), Answer::no);
-    EXPECT_EQ(desk.show("Done.", 0, never), Answer::ok);
-    EXPECT_EQ(desk.log, Log());
+TEST(MessageBox, NobodyIsAskedWhileTheProgramEndsOrAfterTheSession) {
+    for (bool Program::*const over : {&Program::Ending, &Program::SessionEnded}) {
+        Desk desk;
+        desk.program.*over = true;
+        const auto never = [](dlgbox&) { FAIL(); };
+        EXPECT_EQ(desk.show("Really?", 1, never), Answer::no);
+        EXPECT_EQ(desk.show("Done.", 0, never), Answer::ok);
+        EXPECT_EQ(desk.log, Log());
+    }
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QWindow>
 #include <algorithm>
 
 namespace zephyne::test {
@@ -46,6 +48,39 @@ TEST_F(KeyboardMirror, EnterAndEscapePressTheAnswersUnlessAKeyHasTheFocus) {
     QTest::keyClick(widget(form.line), Qt::Key_Escape);
     QTest::keyClick(widget(form.inner), Qt::Key_Return);
     EXPECT_EQ(taken(), (Log{"ok", "inner", "inner"}));
+}
+
+// As X11 has it, and Qt when it does not look ahead: a repetition is a release and a press, neither
+// of them marked, at the same moment.
+TEST_F(KeyboardMirror, AHeldKeyPressesOnce) {
+    form.set_default_button(&form.ok);
+    std::uint64_t now = 1000;
+    const auto send = [&](QEvent::Type type, std::uint32_t scan_code) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, scan_code, 0, 0);
+        event.setTimestamp(now);
+        QCoreApplication::sendEvent(window->windowHandle(), &event);
+    };
+    for (Control* focused : std::initializer_list<Control*>{&form.line, &form.inner}) {
+        focused->set_focus();
+        form.log.clear();
+        send(QEvent::KeyPress, 36);
+        for (int repetition = 0; repetition < 3; ++repetition) {
+            now += 40;
+            send(QEvent::KeyRelease, 36);
+            send(QEvent::KeyPress, 36);
+        }
+        EXPECT_EQ(taken().size(), 1U) << focused->name();
+        now += 40;
+        send(QEvent::KeyRelease, 36);
+        send(QEvent::KeyPress, 104);
+        EXPECT_EQ(taken().size(), 1U) << "another key at the same moment is another press";
+        send(QEvent::KeyRelease, 104);
+        now += 1;
+        send(QEvent::KeyPress, 104);
+        EXPECT_EQ(taken().size(), 1U) << "and so is the same key a moment later";
+        send(QEvent::KeyRelease, 104);
+        now += 1;
+    }
 }
 
 TEST_F(KeyboardMirror, AltAndTheMarkedLetterPressAKeyThatShowsNoMark) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/ports/window_host.h"
+#include "ui/qt/held_keys.h"
 
 #include <QPointer>
 #include <functional>
@@ -13,6 +14,7 @@ class FormWindow;
 
 class QtWindowHost final : public WindowHost {
   public:
+    // Needs a QApplication, which it does not outlive.
     // factor: the user's enlargement of all windows, 1 or more; see user_scale_factor().
     // reachable_when_hidden: asked anew each time; empty means never.
     explicit QtWindowHost(double factor, std::function<bool()> reachable_when_hidden = {});
@@ -35,6 +37,7 @@ class QtWindowHost final : public WindowHost {
     FormWindow* window_of(const Form& form) const;
 
   private:
+    HeldKeys held_keys_;
     double factor_;
     std::function<bool()> reachable_when_hidden_;
     std::unordered_map<const Form*, QPointer<FormWindow>> windows_;
