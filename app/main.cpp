@@ -49,6 +49,7 @@
 #include "ui/main_window_layout.h"
 #include "ui/options_window.h"
 #include "ui/qt/help_window.h"
+#include "ui/qt/menu_style.h"
 #include "ui/qt/pictures.h"
 #include "ui/qt/pixels.h"
 #include "ui/qt/popup_look.h"
@@ -181,8 +182,7 @@ class Zephyne {
     TrayForm tray_;
     QtEventPump pump_;
     QtWindowHost windows_{user_scale_factor(), [this] { return tray_menu_.reachable(); }};
-    QtNotificationArea notification_area_{pictures::tray_icon,
-                                          popup_look::menu(user_scale_factor())};
+    QtNotificationArea notification_area_{pictures::tray_icon, menu_style(user_scale_factor())};
     QtFileDialogs file_dialogs_{user_scale_factor()};
     DesktopBeeper beeper_;
     DesktopClipboard clipboard_;

@@ -78,6 +78,14 @@ void BetweenSongs::cancel_delay() {
 
 void BetweenSongs::ResetSynth() {
     if (stage_.program.ResumePosition != 0) return;
+    reset(stage_.settings().AutoReset == 1 ? Sequence::played : Sequence::left_out);
+}
+
+void BetweenSongs::reset_now() {
+    reset(Sequence::played);
+}
+
+void BetweenSongs::reset(Sequence sequence) {
     MediaDevice& device = stage_.device;
     stage_.form.Timer4.set_enabled(false);
     device.Notify = false;
@@ -85,24 +93,29 @@ void BetweenSongs::ResetSynth() {
     device.command(DeviceCommand::Stop);
     device.command(DeviceCommand::Close);
     device.Type = DeviceType::Sequencer;
-    if (stage_.program.ResetFilePresent && stage_.settings().AutoReset == 1) play_reset_sequence();
+    if (stage_.program.ResetFilePresent && sequence == Sequence::played) play_reset_sequence();
     stage_.program.SwitchingSong = false;
     display_.forget_digits();
     stage_.form.Timer4.set_enabled(true);
 }
 
 void BetweenSongs::play_reset_sequence() {
-    MediaDevice& device = stage_.device;
     Form1& f = stage_.form;
     // The end of the sequence must not pass for the end of a song.
     stage_.program.SwitchingSong = true;
     disable(std::array<Control*, 2>{&f.Drive1, &f.Dir1});
     display_.show_reset_glyphs();
     f.set_title("Resetting MCI Sequencer...");
+    hear_reset_sequence();
+    enable(std::array<Control*, 2>{&f.Drive1, &f.Dir1});
+}
+
+// Events run in between. A song that one of them starts has had a reset of its own, and stays.
+void BetweenSongs::hear_reset_sequence() {
+    MediaDevice& device = stage_.device;
+    const unsigned closed = device.opening();
     stage_.events.pump();
-    // What has just been handled may have opened a song; the Open below closes it.
-    device.Type = DeviceType::Sequencer;
-    stage_.program.SwitchingSong = true;
+    if (device.opening() != closed) return;
     device.Notify = false;
     device.Wait = true;
     device.FileName =
@@ -111,12 +124,13 @@ void BetweenSongs::play_reset_sequence() {
     device.Notify = true;
     device.Wait = true;
     device.command(DeviceCommand::Play);
+    const unsigned reset = device.opening();
     stage_.events.pump();
+    if (device.opening() != reset) return;
     device.Notify = false;
     device.Wait = true;
     device.command(DeviceCommand::Close);
     stage_.events.pump();
-    enable(std::array<Control*, 2>{&f.Drive1, &f.Dir1});
 }
 
 void BetweenSongs::DisableControls() {

@@ -22,9 +22,14 @@ class BetweenSongs {
     void cancel_delay();
 
     // Stops and closes the device, and plays the reset sequence when that is switched on and its
-    // file is there; then the device is closed and its type is Sequencer. Nothing at all happens
+    // file is there; then the device is closed and its type is Sequencer. Meanwhile events are
+    // handled: where one of them has started a song, that song stays open. Nothing at all happens
     // while a song is about to resume.
+    // SwitchingSong is cleared.
     void ResetSynth();
+
+    // The same by the user's wish, which AutoReset and ResumePosition have no say in.
+    void reset_now();
 
     void DisableControls();
     void EnableControls(Reselect reselect);
@@ -33,7 +38,11 @@ class BetweenSongs {
     void select_current_song();
 
   private:
+    enum class Sequence { played, left_out };
+
+    void reset(Sequence sequence);
     void play_reset_sequence();
+    void hear_reset_sequence();
 
     Stage& stage_;
     TimeDisplay& display_;

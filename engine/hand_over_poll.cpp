@@ -128,6 +128,7 @@ void HandOverPoll::play_from_folder(std::string path) {
         });
     }
     if (found == songs.end()) {
+        if (!moved) between_.select_current_song();  // the list has been read anew
         tell("Unknown Error");
         return between_.EnableControls(Reselect::no);
     }

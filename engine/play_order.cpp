@@ -82,6 +82,10 @@ void PlayOrder::drop(const std::string& real_name) {
             --stage_.program.OrderIndex;
         }
     }
+    const auto count = static_cast<std::int32_t>(remaining.count());
+    if (stage_.program.OrderIndex >= count && !runs_backwards(stage_.settings())) {
+        stage_.program.OrderIndex = 0;
+    }
 }
 
 void PlayOrder::rename(const std::string& real_name, const ListItem& renamed) {
@@ -89,8 +93,11 @@ void PlayOrder::rename(const std::string& real_name, const ListItem& renamed) {
     const std::size_t before = remaining.count();
     drop(real_name);
     if (remaining.count() == before) return;
-    const std::size_t row = remaining.add(renamed);
-    if (static_cast<std::int32_t>(row) < stage_.program.OrderIndex) ++stage_.program.OrderIndex;
+    const auto row = static_cast<std::int32_t>(remaining.add(renamed));
+    std::int32_t& next = stage_.program.OrderIndex;
+    // A song that comes to stand right before the next one has played: it would play again. Without
+    // Continuous it has not, and an order that takes from the top takes it from there.
+    if (row < next || (row == next && stage_.settings().Continuous == 1)) ++next;
 }
 
 void PlayOrder::show_total() {
@@ -135,9 +142,10 @@ void PlayOrder::advance_after(std::size_t chosen, std::size_t count) {
     }
 }
 
-// Shows what plays. A row that looks the same may be another file, so that the real name decides
-// where it can; after that the first row that begins like the song's name.
-void PlayOrder::select_in_list(const ListItem& entry) {
+// Shows what plays, and returns that row, or the entry where no row is like it. A row that looks
+// the same may be another file, so that the real name decides where it can; after that the first
+// row that begins like the song's name.
+ListItem PlayOrder::select_in_list(const ListItem& entry) {
     Program& program = stage_.program;
     const auto& songs = stage_.form.File1.items();
     auto found = songs.end();
@@ -147,9 +155,10 @@ void PlayOrder::select_in_list(const ListItem& entry) {
             return song.text.starts_with(program.CurrentSongName);
         });
     }
-    if (found == songs.end()) return;
+    if (found == songs.end()) return entry;
     stage_.form.File1.set_selected(static_cast<std::size_t>(found - songs.begin()));
     program.CurrentSongName = found->text;
+    return *found;
 }
 
 void PlayOrder::PlayNextSong() {
@@ -176,10 +185,10 @@ void PlayOrder::PlayNextSong() {
     stage_.device.set_transport_enabled(false);
     f.Drive1.set_enabled(false);  // PlayFile enables them again
     f.Dir1.set_enabled(false);
-    select_in_list(entry);
+    const ListItem song = select_in_list(entry);
     program.CurrentSongPath =
         playlist ? joined(std::string(folder), program.CurrentSongName, stage_.files.path_style())
-                 : joined(f.Dir1.path(), entry.real(), stage_.files.path_style());
+                 : joined(f.Dir1.path(), song.real(), stage_.files.path_style());
     stage_.events.pump();
     display_.rewind_slider();
     program.SwitchingSong = false;
@@ -231,6 +240,7 @@ void PlayOrder::Command9_Click() {
     between_.EnableControls(Reselect::no);
 
     if (program.settings.Mode == PlayMode::Manual) {
+        if (program.SwitchingSong) return;  // the list would move and not be heard
         const std::size_t below = f.File1.selected() ? *f.File1.selected() + 1 : 0;
         if (below >= f.File1.count()) return;
         display_.StopAnimation();

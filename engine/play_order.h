@@ -57,7 +57,7 @@ class PlayOrder final : public NextSong {
     std::size_t choose() const;
     void advance_after(std::size_t chosen, std::size_t count);
     void Command19_Click();
-    void select_in_list(const ListItem& entry);
+    ListItem select_in_list(const ListItem& entry);
     void show_remaining();
 
     Stage& stage_;

@@ -1,6 +1,6 @@
 #include "engine/reset_button.h"
 
-#include <utility>
+#include <string>
 
 namespace zephyne {
 
@@ -18,26 +18,28 @@ void ResetButton::SSCommand1_Click() {
     const auto holds_song = [&] {
         return stage_.form.File1.selected().has_value() || program.settings.Mode == PlayMode::Queue;
     };
+    Milliseconds place = 0;
     if (holds_song()) {
         stage_.device.set_transport_enabled(false);
         stage_.device.command(DeviceCommand::Pause);
-        program.ResumePosition = static_cast<std::int32_t>(stage_.device.Position());
+        place = stage_.device.Position();
         player_.StopDevice();
     }
 
-    const auto resume = std::exchange(program.ResumePosition, 0);
-    const auto auto_reset = std::exchange(program.settings.AutoReset, 1);
-    between_.ResetSynth();
+    const std::string song = program.CurrentSongPath;
+    between_.reset_now();
     stage_.device.set_transport_enabled(true);
-    program.settings.AutoReset = auto_reset;
-    program.ResumePosition = resume;
+    if (stage_.device.is_open()) return;  // by a song that has been started meanwhile
 
+    // The place is one in the song that played, and in no other.
+    if (program.CurrentSongPath == song) {
+        program.ResumePosition = static_cast<std::int32_t>(place);
+    }
     if (holds_song() && !program.CurrentSongPath.empty()) {
         player_.PlayFile();
     } else {
         player_.StopDevice();
     }
-    program.SwitchingSong = false;
 }
 
 }  // namespace zephyne

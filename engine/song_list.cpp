@@ -1,7 +1,6 @@
 #include "engine/song_list.h"
 
 #include "core/playlist_entry.h"
-#include "core/text/numbers.h"
 #include "engine/listed_songs.h"
 #include "engine/recent_songs.h"
 
@@ -50,6 +49,7 @@ void SongList::refreshfiles() {
     if (names) songs = listed_songs(*names, stage_.settings());
     if (is_long) stage_.events.show();
     f.File1.set_items(std::move(songs));
+    order_.show_total();
     if (is_long) stage_.events.show();
 }
 
@@ -73,7 +73,7 @@ void SongList::filepathchange() {
     switch (program.settings.Mode) {
         case PlayMode::Manual:
             forget_song_of_empty_list();
-            f.Label2.set_caption(decimal(static_cast<std::int64_t>(f.File1.count())));
+            order_.show_total();
             f.Label4.set_caption("N/A");
             player_.StopDevice();
             break;
@@ -100,12 +100,16 @@ void SongList::Drive1_Change() {
     if (f.Dir1.set_path(f.Drive1.drive().root)) return;
     // Where the program itself moves the lists, it knows what to say.
     if (stage_.program.SwitchingSong) return f.Drive1.follow(f.Dir1.path());
-    if (std::exchange(recovering_, true)) return;
+    if (recovering_) return;
+    const FlagGuard recovering(recovering_);
+    const std::string folder = f.Dir1.path();
     stage_.messages.ShowDlgMessage("Error - Drive May Be Unavailable.", 0, "Drive Error");
-    (void)f.Drive1.set_drive_of(stage_.program.StartFolder);
-    (void)f.Dir1.set_path(f.Drive1.drive().root);
+    // A song that has been handed over meanwhile has brought its folder, and keeps it.
+    if (f.Dir1.path() == folder) {
+        (void)f.Drive1.set_drive_of(stage_.program.StartFolder);
+        (void)f.Dir1.set_path(f.Drive1.drive().root);
+    }
     f.Drive1.follow(f.Dir1.path());
-    recovering_ = false;
 }
 
 // A playlist is edited in its lines, so that while its editor is open a row may show one song and

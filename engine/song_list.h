@@ -16,10 +16,12 @@ class SongList {
     SongList(Stage& stage, TimeDisplay& display, BetweenSongs& between, Player& player,
              PlayOrder& order);
 
-    // Rebuilds the list from the current folder. Nothing happens with a playlist.
+    // Rebuilds the list from the current folder, without a selected row, and shows how many songs
+    // it has. A folder that cannot be read has none. Nothing happens with a playlist.
     void refreshfiles();
 
-    // The same in the middle of a step: what the list and its selection do meanwhile starts nothing.
+    // The same in the middle of a step: what the list and its selection do meanwhile starts
+    // nothing.
     void rebuild();
 
     // A song's file has gone, and another song plays and goes on: it leaves the list and the cycle.

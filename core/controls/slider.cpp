@@ -17,7 +17,9 @@ bool Slider::move_cap(int value) {
 }
 
 void Slider::set_value(int value) {
-    if (move_cap(value) && on_change_) on_change_();
+    if (!move_cap(value)) return;
+    pressed_at_ = value_;  // where the user holds it, the release has nothing to tell
+    if (on_change_) on_change_();
 }
 
 void Slider::press() {

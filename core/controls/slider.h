@@ -1,7 +1,7 @@
 // A slider, horizontal or vertical. A vertical one has its lowest value at the top.
 //
-// While the user drags the cap, on_scroll follows it; the change comes once, with the release. A
-// step by key, and a value set from code, are a change at once.
+// While the user drags the cap, on_scroll follows it; the change comes once, with the release, if
+// the user has moved it. A step by key, and a value set from code, are a change at once.
 #pragma once
 
 #include "core/controls/control.h"

@@ -19,8 +19,9 @@ QString without_markup(QString text) {
 
 }  // namespace
 
-QtNotificationArea::QtNotificationArea(std::function<QIcon()> picture, const QString& menu_look)
-    : picture_(std::move(picture)), menu_(menu_look) {}
+QtNotificationArea::QtNotificationArea(std::function<QIcon()> picture,
+                                       std::unique_ptr<QStyle> menu_style)
+    : picture_(std::move(picture)), menu_(std::move(menu_style)) {}
 
 // To look for the desktop's tray takes a time that the start of the program has better use for.
 QSystemTrayIcon& QtNotificationArea::icon() {

@@ -13,9 +13,8 @@ namespace zephyne {
 
 class QtNotificationArea final : public QObject, public NotificationArea {
   public:
-    // picture: draws the icon, when it is wanted. menu_look: a style sheet for the menu. Needs a
-    // QApplication.
-    QtNotificationArea(std::function<QIcon()> picture, const QString& menu_look);
+    // picture: draws the icon, when it is wanted. Needs a QApplication.
+    QtNotificationArea(std::function<QIcon()> picture, std::unique_ptr<QStyle> menu_style);
 
     void notify_icon(NotifyCommand command, const NotifyIconData& data) override;
     void set_menu(PopupMenu menu) override { menu_.set_entries(std::move(menu)); }

@@ -21,8 +21,8 @@ QString shown(const std::string& caption) {
 
 }  // namespace
 
-QtPopupMenu::QtPopupMenu(const QString& look) {
-    menu_.setStyleSheet(look);
+QtPopupMenu::QtPopupMenu(std::unique_ptr<QStyle> style) : style_(std::move(style)) {
+    menu_.setStyle(style_.get());
     menu_.setSeparatorsCollapsible(false);  // the sheet knows where it wants them
     QObject::connect(&menu_, &QMenu::aboutToShow, &menu_, [this] { bring_up_to_date(); });
 }

@@ -4,14 +4,15 @@
 #include "core/controls/menu.h"
 
 #include <QMenu>
+#include <QStyle>
+#include <memory>
 #include <vector>
 
 namespace zephyne {
 
 class QtPopupMenu {
   public:
-    // look: a style sheet.
-    explicit QtPopupMenu(const QString& look);
+    explicit QtPopupMenu(std::unique_ptr<QStyle> style);
 
     // The entries to show; they outlive the menu. A chosen one is clicked.
     void set_entries(PopupMenu entries);
@@ -27,6 +28,7 @@ class QtPopupMenu {
   private:
     void stay_on_screen();
 
+    std::unique_ptr<QStyle> style_;
     QMenu menu_;
     PopupMenu entries_;
     std::vector<QAction*> actions_;  // one for each entry; the menu owns them

@@ -118,6 +118,7 @@ TEST_P(HandedOver, WhatIsNoSongOrIsNotThereIsReported) {
     hand_over(world.path("notes.txt"));
     EXPECT_EQ(world.happened(), Log{kUnknown});
     EXPECT_EQ(world.form.title(), "Zephyne - Playing a.mid");
+    EXPECT_EQ(world.form.File1.selected(), 0U) << "what plays is still selected";
     world.finish_song();
     EXPECT_EQ(world.form.title(), "Zephyne - Playing b.mid") << "the order goes on";
 

@@ -162,6 +162,7 @@ TEST(PlayOrder, ResetListReadsTheFolderAnewAndBeginsAgain) {
     manual.files.add_file(manual.path("A.mid"));
     manual.form.Command6.click();
     EXPECT_EQ(World::names(manual.form.File1), (Log{"A.mid", "B.mid"}));
+    EXPECT_EQ(manual.form.Label2.caption(), "2");
     EXPECT_EQ(manual.played(), Log{"B.mid"}) << "nothing else begins";
 }
 
@@ -186,6 +187,26 @@ TEST(PlayOrder, ASingleSongPlaysAgainAndAgain) {
         world.run_for(400'000);
         EXPECT_EQ(world.played(), (Log{"Only.mid", "Only.mid", "Only.mid"}));
     }
+}
+
+TEST(PlayOrder, ASongThatLeavesTheListLeavesTheOrderOfTheOthersAsItIs) {
+    World world{"A.mid", "B.mid", "C.mid"};
+    world.settings().Continuous = 1;
+    world.start(PlayMode::Alpha);
+    world.form.Command9.click();
+    world.click("C.mid");  // which is also the next by the order
+    world.engine->order.drop("C.mid");
+    world.form.Command9.click();
+    EXPECT_EQ(world.played(), (Log{"A.mid", "B.mid", "C.mid", "A.mid"}));
+}
+
+TEST(PlayOrder, ASongWhoseFileIsGoneGivesWayWholeToTheOneThatBeginsLikeIt) {
+    World world{"A.mid", "A.mid.mid"};
+    world.start(PlayMode::Alpha);
+    world.form.List1.set_items({{"A.mid", {}}});
+    world.form.File1.remove(0);
+    world.form.Command9.click();
+    EXPECT_EQ(world.program.CurrentSongPath, world.path(world.program.CurrentSongName));
 }
 
 TEST(PlayOrder, AListThatHasShrunkUnderAContinuousCycleGoesOnFromItsEnd) {

@@ -155,6 +155,15 @@ TEST_P(SongLists, ADriveThatCannotBeReadGivesWayToTheOneOfTheStart) {
         EXPECT_EQ(world.form.Drive1.drive().root, first) << "the one whose folder is shown";
         EXPECT_EQ(world.form.Dir1.path(), first);
     }
+    world.files.allow(first);
+    world.messages.while_open = [&] {
+        world.hand_over(world.path("Aria.mid"));
+        world.form.Timer5.on_tick();
+    };
+    world.form.Drive1.choose(1);
+    EXPECT_EQ(world.form.Dir1.path(), world.folder) << "to where a song has been handed over";
+    EXPECT_EQ(world.open_song(), "Aria.mid");
+    EXPECT_EQ(world.form.Drive1.drive().root, first);
 }
 
 TEST_P(SongLists, APlaylistPlaysEachSongFromItsOwnFolder) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace zephyne::test {
 namespace {
 
@@ -150,6 +152,40 @@ TEST_F(Start, ASongStartedFromElsewhereDuringTheResetIsNotStartedTwice) {
     world.start(PlayMode::Alpha);
     EXPECT_EQ(world.played(), Log{"A.mid"});
     EXPECT_EQ(world.form.title(), "Zephyne - Playing A.mid");
+}
+
+TEST_F(Start, ASongCalledForDuringTheResetOfAnotherBeginsAtItsStartAndStays) {
+    const std::vector<std::pair<std::string, std::function<void()>>> resets = {
+        {"reset key", [this] { world.form.SSCommand1.click(); }},
+        {"stop key", [this] { world.form.MMControl1.press(TransportKey::stop); }},
+    };
+    for (const auto& [name, reset] : resets) {
+        for (int at = 1; at <= 3; ++at) {
+            SCOPED_TRACE(name + ", pump " + std::to_string(at));
+            world.start(PlayMode::Alpha);
+            world.run_for(90'200);
+            world.happened();
+            world.pump.arrive_in(at, [&] { world.engine->order.PlayNextSong(); });
+            reset();
+            const Log log = world.happened();
+            EXPECT_EQ(std::count(log.begin(), log.end(), "play B.mid"), 1);
+            EXPECT_EQ(log.back(), "play B.mid");
+            world.expect_title_tells_the_truth();
+            world.expect_flags_at_rest();
+        }
+    }
+}
+
+TEST_F(Start, NextInManualModeIsNotHalfHeardDuringTheReset) {
+    world.open_folder();
+    world.click("A.mid");
+    world.pump.on_pump = [&] {
+        if (world.program.SwitchingSong) world.form.Command9.click();
+    };
+    world.form.MMControl1.press(TransportKey::stop);
+    world.pump.on_pump = nullptr;
+    EXPECT_EQ(world.form.File1.item(*world.form.File1.selected()).text,
+              world.program.CurrentSongName);
 }
 
 TEST_F(Start, ASongThatDoesNotPlayIsReportedAndNothingElseIsTried) {

@@ -263,5 +263,16 @@ TEST_F(ThePositionSlider, DoesNotTakeItsPlaceIntoASongThatBeginsMeanwhile) {
     world.expect_title_tells_the_truth();
 }
 
+TEST_F(ThePositionSlider, HeldWhileTheNextSongBeginsSeeksNothingInIt) {
+    slider.press();
+    slider.drag_to(60);
+    world.click("B.mid");
+    world.run_for(3000);
+    world.happened();
+    slider.release();
+    EXPECT_EQ(world.happened(), Log{});
+    EXPECT_EQ(world.device.Position(), 3000);
+}
+
 }  // namespace
 }  // namespace zephyne::test

@@ -131,6 +131,8 @@ TEST_P(FileCareTest, RenamedSongIsPlayedUnderItsNewNameInTheCycle) {
     choose("a.mid", PlayMode::Alpha);
     rename("c.mid");
     EXPECT_EQ(World::names(world.form.List1), (Log{"b.mid", "c.mid", "SONG.RMI"}));
+    rename("aa.mid");
+    EXPECT_EQ(World::names(world.form.List1), (Log{"aa.mid", "b.mid", "SONG.RMI"}));
     world.midi.finish();
     world.run_for(1000);
     EXPECT_EQ(world.played(), Log{"b.mid"}) << "which would have been next";

@@ -164,6 +164,7 @@ void World::expect_flags_at_rest() const {
     EXPECT_FALSE(program.FindSync);
     EXPECT_FALSE(program.DisplayBusy);
     EXPECT_FALSE(program.DelayActive);
+    EXPECT_EQ(program.ResumePosition, 0);
 }
 
 void World::expect_whole() const {

@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QPointer>
+#include <QProxyStyle>
 #include <QScreen>
 #include <QSystemTrayIcon>
 #include <QTextDocument>
@@ -68,7 +69,7 @@ class TrayIcon : public testing::Test {
     NotifyIconData record;
     std::vector<std::uint32_t> events;
     std::string chosen;
-    QtNotificationArea area{red_square, "QMenu { color: white; }"};
+    QtNotificationArea area{red_square, std::make_unique<QProxyStyle>()};
 };
 
 TEST_F(TrayIcon, ComesUpHoweverLateItsHostIsAndComesBackWithIt) {

@@ -85,6 +85,15 @@ TEST_F(ControlMirror, DraggingASliderRaisesOneChangeAtTheRelease) {
 
     // Taken away in the hand, it is let go.
     QTest::mousePress(slider, Qt::LeftButton, {}, {20, middle});
+    QEvent message_opens(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(slider, &message_opens);
+    const Log let_go = {"slid " + std::to_string(form.slider.value())};
+    EXPECT_EQ(taken(), let_go) << "the message box gets the release";
+    QTest::mouseMove(slider, {90, middle});
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, {90, middle});
+    EXPECT_EQ(taken(), Log{});
+
+    QTest::mousePress(slider, Qt::LeftButton, {}, {60, middle});
     form.slider.set_visible(false);
     EXPECT_EQ(taken(), (Log{"focus list", "slid " + std::to_string(form.slider.value())}));
 }

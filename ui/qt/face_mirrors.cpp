@@ -96,14 +96,9 @@ void LabelMirror::paint(QPainter& painter, const paint::Scale& scale) const {
         case Style::message:
             paint_wrapped(painter, scale);
             break;
-        case Style::strong:
-            paint::label(painter, scale, box(),
-                         {.enabled = label_.usable(), .role = role, .fit = paint::Fit::ElideMiddle},
-                         text);
-            break;
         default:
             paint::label(painter, scale, box(),
-                         {.enabled = label_.usable(), .role = role, .fit = paint::Fit::ElideEnd},
+                         {.enabled = label_.usable(), .role = role, .fit = paint::Fit::ElideMiddle},
                          text);
             break;
     }

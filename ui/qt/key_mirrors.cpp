@@ -28,15 +28,6 @@ paint::Pointer pointer_at(const QAbstractButton& key) {
     return key.underMouse() ? paint::Pointer::Over : paint::Pointer::Away;
 }
 
-// "&Next" is shown as "Next", and Alt+N presses it; "&&" stands for the sign itself.
-QString without_mnemonic(const std::string& caption) {
-    QString text = shown(caption);
-    for (qsizetype at = text.indexOf(u'&'); at >= 0; at = text.indexOf(u'&', at + 1)) {
-        text.remove(at, 1);
-    }
-    return text;
-}
-
 bool is_enter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
@@ -57,7 +48,7 @@ bool ButtonMirror::key_pressed(QKeyEvent& event) {
 }
 
 void ButtonMirror::show_name() {
-    key_->setAccessibleName(without_mnemonic(button_.accessible_name()));
+    key_->setAccessibleName(without_mnemonic(shown(button_.accessible_name())));
     key_->setShortcut(QKeySequence::mnemonic(shown(button_.caption())));
 }
 
@@ -71,7 +62,7 @@ void ButtonMirror::paint(QPainter& painter, const paint::Scale& scale) const {
     } else if (button_.style() == Style::reset) {
         paint::glyph_button(painter, scale, box(), state, paint::Glyph::Reset);
     } else {
-        paint::button(painter, scale, box(), state, without_mnemonic(button_.caption()));
+        paint::button(painter, scale, box(), state, without_mnemonic(shown(button_.caption())));
     }
 }
 

@@ -1,8 +1,8 @@
 #include "ui/qt/line_edit.h"
 
+#include "ui/qt/menu_style.h"
 #include "ui/qt/paint/controls.h"
 #include "ui/qt/paint/palette.h"
-#include "ui/qt/popup_look.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -93,7 +93,7 @@ void LineEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 void LineEdit::contextMenuEvent(QContextMenuEvent* event) {
-    popup_look::run_menu(createStandardContextMenu(), pixels_.factor, event->globalPos());
+    run_menu(createStandardContextMenu(), pixels_.factor, event->globalPos());
 }
 
 }  // namespace zephyne

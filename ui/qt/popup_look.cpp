@@ -3,10 +3,8 @@
 #include "ui/qt/paint/palette.h"
 #include "ui/qt/paint/type.h"
 
-#include <QMenu>
 #include <QPalette>
 #include <QToolTip>
-#include <memory>
 #include <utility>
 
 namespace zephyne::popup_look {
@@ -48,10 +46,11 @@ QString filled_in(QString sheet, double factor) {
 }  // namespace
 
 QString tooltip(double factor) {
-    // Qt adds the widest border and padding to all sides once more, and a pixel: 6 by 4 in all.
+    // Qt adds the widest border and padding to all sides once more, and a pixel: 6 by 4 in all. It
+    // thickens letters of this size, so that a weight of 400 looks like the 500 of the captions.
     return filled_in(QStringLiteral("QToolTip { background: $ground; color: $text;"
                                     " border: (1) solid $edge; padding: 0 (2);"
-                                    " font: 500 (11) \"$family\"; }"),
+                                    " font: 400 (11) \"$family\"; }"),
                      factor);
 }
 
@@ -61,20 +60,7 @@ void dress_tooltips(double factor) {
     colors.setColor(QPalette::ToolTipText, palette::engraving);
     colors.setColor(QPalette::Window, palette::popup_edge);
     QToolTip::setPalette(colors);
-    QToolTip::setFont(paint::font(paint::Role::Caption, paint::Scale{factor}));
-}
-
-QString menu(double factor) {
-    return filled_in(
-        QStringLiteral("QMenu { background: $ground; color: $text; border: (1) solid $edge;"
-                       " font: 500 (11) \"$family\"; }"
-                       "QMenu::item { padding: (3) (22); }"
-                       "QMenu::item:selected { background: $selection; color: $lit; }"
-                       "QMenu::item:disabled { background: transparent; color: $quiet; }"
-                       "QMenu::item:default { font-weight: 600; }"
-                       "QMenu::icon { width: 0; }"
-                       "QMenu::separator { height: (1); background: $edge; margin: (3) 0; }"),
-        factor);
+    QToolTip::setFont(paint::font(paint::Role::Notice, paint::Scale{factor}));
 }
 
 QString whats_this(double factor) {
@@ -118,13 +104,6 @@ QString help_document(double factor) {
                                     "code, pre { font-family: monospace; color: $text; }"
                                     "a { color: $link; text-decoration: none; }"),
                      factor);
-}
-
-void run_menu(QMenu* menu, double factor, const QPoint& screen_point) {
-    const std::unique_ptr<QMenu> owned(menu);
-    if (!owned) return;
-    owned->setStyleSheet(popup_look::menu(factor));
-    owned->exec(screen_point);
 }
 
 }  // namespace zephyne::popup_look

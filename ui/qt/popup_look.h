@@ -1,10 +1,7 @@
-// Style sheets for what Qt itself lays out: menus, tooltips, notes, and the help.
+// Style sheets for what Qt itself lays out: tooltips, notes, and the help.
 #pragma once
 
 #include <QString>
-
-class QMenu;
-class QPoint;
 
 namespace zephyne::popup_look {
 
@@ -14,12 +11,8 @@ QString tooltip(double factor);
 // Gives our colours and type to the tooltips of what has no style sheet: the tray icon.
 void dress_tooltips(double factor);
 
-QString menu(double factor);
 QString whats_this(double factor);
 QString help_window(double factor);    // keys, ground and scroll bar
 QString help_document(double factor);  // the text itself
-
-// Shows a menu (null: does nothing) in our look until the user has chosen, and deletes it.
-void run_menu(QMenu* menu, double factor, const QPoint& screen_point);
 
 }  // namespace zephyne::popup_look

@@ -11,4 +11,12 @@ inline QString shown(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+// "&Next" is shown as "Next", and Alt+N presses it; "&&" stands for the sign itself.
+inline QString without_mnemonic(QString caption) {
+    for (qsizetype at = caption.indexOf(u'&'); at >= 0; at = caption.indexOf(u'&', at + 1)) {
+        caption.remove(at, 1);
+    }
+    return caption;
+}
+
 }  // namespace zephyne

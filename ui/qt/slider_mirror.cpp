@@ -123,6 +123,9 @@ bool SliderMirror::handle(QEvent& event) {
             return static_cast<QMouseEvent&>(event).button() == Qt::LeftButton && release();
         case QEvent::Wheel:
             return turn(static_cast<QWheelEvent&>(event));
+        case QEvent::WindowDeactivate:
+            release();  // a message box that comes up keeps the mouse's own release from us
+            return false;
         case QEvent::Leave:
             over_cap_ = false;
             return false;

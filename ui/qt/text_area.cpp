@@ -1,8 +1,8 @@
 #include "ui/qt/text_area.h"
 
+#include "ui/qt/menu_style.h"
 #include "ui/qt/paint/controls.h"
 #include "ui/qt/paint/palette.h"
-#include "ui/qt/popup_look.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QContextMenuEvent>
@@ -154,7 +154,7 @@ void TextArea::focusOutEvent(QFocusEvent* event) {
 }
 
 void TextArea::contextMenuEvent(QContextMenuEvent* event) {
-    popup_look::run_menu(createStandardContextMenu(), pixels_.factor, event->globalPos());
+    run_menu(createStandardContextMenu(), pixels_.factor, event->globalPos());
 }
 
 }  // namespace zephyne

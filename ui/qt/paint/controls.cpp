@@ -203,7 +203,7 @@ void glass_text_box(QPainter& painter, const Scale& scale, const QRect& box,
 QRect text_box_interior(const Scale& scale, const QRect& box, TextLines lines) {
     const int side = scale.px(text_margin);
     const int top = lines == TextLines::Many ? scale.px(text_top_margin) : scale.stroke();
-    return box.adjusted(side, top, -side, -top);
+    return box.adjusted(side, top, -side, -scale.stroke());
 }
 
 void label(QPainter& painter, const Scale& scale, const QRect& box, const LabelState& state,
@@ -250,54 +250,28 @@ void popup_ground(QPainter& painter, const Scale& scale, const QRect& box) {
     fill(painter, shrunk(box, scale.stroke()), palette::popup);
 }
 
+Role menu_role(const MenuRowState& state) {
+    return state.is_default ? Role::Heading : Role::Caption;
+}
+
 void menu_row(QPainter& painter, const Scale& scale, const QRect& row, const MenuRowState& state,
-              const QString& text) {
-    constexpr int text_left = 22;
+              const QString& text, const QString& key) {
     const bool lit = state.enabled && state.selected;
     const QColor color = !state.enabled ? palette::quiet
                          : lit          ? palette::selection_text
                                         : palette::engraving;
     if (lit) fill(painter, row, palette::selection);
-    if (state.checked) {
-        const QRect margin(row.left(), row.top(), scale.px(text_left), row.height());
-        draw_glyph_centered(painter, scale, Glyph::Check, margin,
-                            state.enabled ? palette::ice : palette::off_glyph);
-    }
-    draw_text(painter, scale, row.adjusted(scale.px(text_left), 0, -scale.px(text_margin), 0), text,
-              {.role = state.is_default ? Role::Heading : Role::Caption,
-               .color = color,
-               .fit = Fit::ElideEnd});
+    const int margin = scale.px(menu_text_margin);
+    const QRect place = row.adjusted(margin, 0, -margin, 0);
+    draw_text(painter, scale, place, text,
+              {.role = menu_role(state), .color = color, .fit = Fit::ElideMiddle});
+    draw_text(painter, scale, place, key,
+              {.role = Role::Caption, .color = color, .align = Align::Right});
 }
 
 void menu_separator(QPainter& painter, const Scale& scale, const QRect& row) {
     fill(painter, QRect(row.left(), row.center().y(), row.width(), scale.stroke()),
          palette::popup_edge);
-}
-
-namespace {
-
-constexpr int tooltip_side = 6;
-constexpr int tooltip_top = 4;
-
-QStringList tooltip_lines(const QString& text) {
-    return text.split(QLatin1Char('\n'));
-}
-
-}  // namespace
-
-QSize tooltip_size(const Scale& scale, const QString& text) {
-    const QStringList lines = tooltip_lines(text);
-    double widest = 0;
-    for (const QString& line : lines)
-        widest = std::max(widest, text_width(line, Role::Caption, scale));
-    return QSize(scale.px(widest / scale.s + 2 * tooltip_side),
-                 scale.px(face(Role::Caption).pitch * lines.size() + 2 * tooltip_top));
-}
-
-void tooltip(QPainter& painter, const Scale& scale, const QRect& box, const QString& text) {
-    popup_ground(painter, scale, box);
-    draw_lines(painter, scale, box.adjusted(scale.px(tooltip_side), scale.px(tooltip_top), 0, 0),
-               tooltip_lines(text), {.role = Role::Caption, .color = palette::engraving});
 }
 
 }  // namespace zephyne::paint

@@ -78,7 +78,7 @@ void glass_text_box(QPainter& painter, const Scale& scale, const QRect& box,
                     const ControlState& state);
 
 // Where the text of a text box stands: 7 px from the sides; one with several lines starts
-// 6 px below the top.
+// 6 px below the top, and may fill the box down to its edge.
 enum class TextLines { One, Many };
 QRect text_box_interior(const Scale& scale, const QRect& box, TextLines lines);
 
@@ -95,8 +95,8 @@ void label(QPainter& painter, const Scale& scale, const QRect& box, const LabelS
 // The name on the faceplate, on one baseline with the legends of the volume sliders.
 void brand(QPainter& painter, const Scale& scale, const QRect& box, const QString& name);
 
-// Wrapped text on the faceplate from the top of its box; returns the height it needs in
-// device pixels. wrapped_height tells it without painting.
+// Wrapped text on the faceplate from the top of its box, and the height that it needs at a width,
+// both in device pixels.
 void wrapped_label(QPainter& painter, const Scale& scale, const QRect& box, const LabelState& state,
                    const QString& text);
 int wrapped_height(const Scale& scale, const QString& text, Role role, int width);
@@ -108,22 +108,19 @@ void led_label(QPainter& painter, const Scale& scale, const QRect& box, Role rol
 // A small lamp in an LED colour in a square box; its rim reaches 1.5 px beyond.
 void lamp(QPainter& painter, const Scale& scale, const QRect& box, const QColor& color);
 
-// Menus and tooltips.
+// Menus. The name of a row's key ("Ctrl+C") stands at its right end.
 void popup_ground(QPainter& painter, const Scale& scale, const QRect& box);
 
 struct MenuRowState {
     bool enabled = true;
     bool selected = false;
     bool is_default = false;
-    bool checked = false;
 };
-inline constexpr int menu_row_height = 20;  // px at 100 %
+inline constexpr int menu_row_height = 20;   // px at 100 %
+inline constexpr int menu_text_margin = 22;  // at both sides
 void menu_row(QPainter& painter, const Scale& scale, const QRect& row, const MenuRowState& state,
-              const QString& text);
+              const QString& text, const QString& key);
+Role menu_role(const MenuRowState& state);
 void menu_separator(QPainter& painter, const Scale& scale, const QRect& row);
-
-// Ground and text. Line breaks in the text are kept. The size is in device pixels.
-QSize tooltip_size(const Scale& scale, const QString& text);
-void tooltip(QPainter& painter, const Scale& scale, const QRect& box, const QString& text);
 
 }  // namespace zephyne::paint

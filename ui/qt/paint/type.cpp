@@ -129,14 +129,7 @@ double text_width(const QString& text, Role role, const Scale& scale) {
 FittedText fit_text(const QString& text, Role role, const Scale& scale, double room, Fit fit) {
     const double width = natural_width(text, role, scale);
     if (fit == Fit::Overflow || width <= room) return {text, 1, width};
-    switch (fit) {
-        case Fit::ElideMiddle:
-            return elided(text, role, scale, room, 1, Qt::ElideMiddle);
-        case Fit::ElideEnd:
-            return elided(text, role, scale, room, 1, Qt::ElideRight);
-        default:
-            break;
-    }
+    if (fit == Fit::ElideMiddle) return elided(text, role, scale, room, 1, Qt::ElideMiddle);
     if (width * narrowest_stretch <= room) return {text, room / width, room};
     return elided(text, role, scale, room, narrowest_stretch, Qt::ElideRight);
 }

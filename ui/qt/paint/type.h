@@ -51,7 +51,6 @@ enum class Fit {
     Overflow,     // drawn in full, come what may
     Condense,     // narrowed down to 88 %, then cut at the end with an ellipsis
     ElideMiddle,  // an ellipsis in the middle: both ends of a file name tell something
-    ElideEnd,
 };
 
 // A line made to fit.
