@@ -1,4 +1,4 @@
-// MIDI files of any bytes: parsed, and played through to their end into a sink that counts.
+// MIDI files of any bytes, parsed.
 #include "platform/sound/standard_midi_file.h"
 
 #include <cstdint>

@@ -28,7 +28,7 @@ class HandedOver : public testing::TestWithParam<PathStyle> {
         world.hand_over(path);
         world.run_for(1500);
         EXPECT_EQ(world.form.Label15.caption(), "");
-        world.expect_whole();
+        world.expect_in_one_piece();
     }
     Log remaining() const { return World::names(world.form.List1); }
 
@@ -159,7 +159,7 @@ TEST_P(HandedOver, WhileAMessageIsOpenASongPlaysAndStays) {
         act(fresh);
         EXPECT_EQ(fresh.open_song(), "b.mid");
         EXPECT_EQ(fresh.device.Mode(), DeviceMode::playing);
-        fresh.expect_whole();
+        fresh.expect_in_one_piece();
     }
 }
 

@@ -216,7 +216,7 @@ class AnyIntruder : public testing::TestWithParam<PathStyle> {
         const bool queue = world.settings().Mode == PlayMode::Queue;
         if (queue) world.program.StartingUp = false;  // as it always is there
         world.run_for(3000);
-        world.expect_whole();
+        world.expect_in_one_piece();
         const bool told = std::any_of(world.log.begin(), world.log.end(), [](const auto& line) {
             return line.starts_with("message: ");
         });

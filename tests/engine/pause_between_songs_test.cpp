@@ -62,7 +62,7 @@ TEST_F(Pause, LocksWhateverCouldStartASongAndSaysHowLong) {
         });
         world.run_for(75'000);
         EXPECT_TRUE(acted_);
-        world.expect_whole();
+        world.expect_in_one_piece();
     }
 }
 
@@ -73,7 +73,7 @@ TEST_F(Pause, EndsAtOnceWithItsCancelKey) {
     world.run_for(12'000);
     EXPECT_EQ(world.played(), (Log{"A.mid", "B.mid"}));
     EXPECT_FALSE(world.form.Timer1.enabled());
-    world.expect_whole();
+    world.expect_in_one_piece();
 }
 
 TEST_F(Pause, LeavesTheFileCommandsOfAPlaylistDisabled) {

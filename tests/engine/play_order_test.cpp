@@ -175,7 +175,7 @@ TEST(PlayOrder, AnEmptyListPlaysNothingAndCountsNothing) {
     world.form.Command6.click();
     world.run_for(10'000);
     EXPECT_EQ(world.happened(), Log{});
-    world.expect_whole();
+    world.expect_in_one_piece();
 }
 
 TEST(PlayOrder, ASingleSongPlaysAgainAndAgain) {

@@ -49,7 +49,7 @@ TEST_F(End, ASongDeletedWhileItPlayedIsReportedAtItsEnd) {
     world.finish_song();
     EXPECT_EQ(world.happened().back(), kGone);
     EXPECT_EQ(world.program.CurrentSongPath, "");
-    world.expect_whole();
+    world.expect_in_one_piece();
     world.form.MMControl1.press(TransportKey::stop);
     EXPECT_EQ(world.happened(), Log{});
 }

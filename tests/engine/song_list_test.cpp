@@ -83,7 +83,7 @@ TEST_P(SongLists, OfSeveralClicksDuringTheResetTheLastOneCounts) {
         world.pump.arrive_in(2, [&] { world.click("Polka.mid"); });
         world.click("Aria.mid");
         EXPECT_EQ(world.played(), Log{"Polka.mid"});
-        world.expect_whole();
+        world.expect_in_one_piece();
     }
 }
 
@@ -224,7 +224,7 @@ TEST_F(Find, EnterPlaysWhatWasFound) {
     EXPECT_FALSE(world.form.text2.press_key(kEnter)) << "the key itself is swallowed";
     EXPECT_EQ(world.played(), Log{"barcarole.mid"});
     EXPECT_EQ(world.form.text2.text(), "");
-    world.expect_whole();
+    world.expect_in_one_piece();
     EXPECT_TRUE(world.form.text2.press_key('x'));
 }
 
@@ -256,7 +256,7 @@ TEST_F(Find, EnterDuringThePauseBetweenSongsEndsThePauseAndPlays) {
     world.finish_song();
     EXPECT_LT(world.clock.now() - begin, 2000);
     EXPECT_EQ(world.played(), Log{"barcarole.mid"});
-    world.expect_whole();
+    world.expect_in_one_piece();
     world.run_for(10'000);
     EXPECT_GE(world.clock.now() - begin, 40'000) << "the next pause is a whole one";
 }

@@ -200,7 +200,7 @@ TEST_F(Start, ASongThatDoesNotPlayIsReportedAndNothingElseIsTried) {
         EXPECT_EQ(world.happened().back(), kDoesNotPlay);
         world.run_for(1'000'000);
         EXPECT_EQ(world.happened(), Log{});
-        world.expect_whole();
+        world.expect_in_one_piece();
     }
 }
 
@@ -210,7 +210,7 @@ TEST_F(Start, AFileThatIsNoSongIsPassedOverAndLeavesNoPlaceToResume) {
     world.program.ResumePosition = 5000;
     world.click("x.mp3");
     EXPECT_EQ(world.happened(), Log{});
-    world.expect_whole();
+    world.expect_in_one_piece();
     world.click("A.mid");
     EXPECT_EQ(world.played(), Log{"A.mid"}) << "from its start";
 }

@@ -216,7 +216,7 @@ TEST_F(ThePositionSlider, SeeksWhenTheDragEnds) {
     EXPECT_EQ(world.happened(), Log{});
     world.run_for(200);
     EXPECT_EQ(world.form.title(), "Zephyne") << "the song ends where it always does";
-    world.expect_whole();
+    world.expect_in_one_piece();
 }
 
 TEST_F(ThePositionSlider, FollowsTheKeysAtOnce) {

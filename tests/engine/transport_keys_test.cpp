@@ -90,7 +90,7 @@ TEST_F(Keys, StopReportsASongThatHasGone) {
     EXPECT_EQ(world.happened(),
               (Log{"close A.mid", "message: File was apparently deleted or moved. [Error]"}));
     EXPECT_EQ(world.program.CurrentSongName, "");
-    world.expect_whole();
+    world.expect_in_one_piece();
 }
 
 TEST_F(Keys, PlayWithoutAPlayableFileSaysSo) {

@@ -170,7 +170,7 @@ TEST(OptionsLife, SongsGoOnBehindItForAnHour) {
         f.Command1.click();
     });
     EXPECT_EQ(world.settings().AutoRepeat, 1);
-    world.expect_whole();
+    world.expect_in_one_piece();
 }
 
 TEST(OptionsLife, ItsKeyIsDeafWhileOkIsAtWork) {

@@ -1,100 +1,83 @@
 #include "file_worlds.h"
 
-#include <signal.h>
-#include <sys/resource.h>
+#include <unistd.h>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
 
-using namespace test;
+namespace fs = std::filesystem;
 
-template <class World>
-class FileChanges : public InBothWorlds<World> {};
-TYPED_TEST_SUITE(FileChanges, Worlds);
+class FileChanges : public InBothWorlds {};
+INSTANTIATE_TEST_SUITE_P(BothWorlds, FileChanges, kBothWorlds);
 
 class PosixFileChanges : public OnRealDisk {};
 
-TYPED_TEST(FileChanges, ReplacedFileIsWholeAndKeepsItsName) {
-    this->world_.add_file("SONG.NTE", "a long old note");
-    ASSERT_TRUE(this->world_.files.replace_file(this->world_.path("SONG.NTE"), "new"));
-    ASSERT_TRUE(this->world_.files.replace_file(this->world_.path("other.nte"), "fresh"));
-    EXPECT_EQ(this->read("SONG.NTE"), "new");
-    EXPECT_EQ(this->listed(this->world_.files.list_files(this->world_.root)),
-              (Names{"SONG.NTE", "other.nte"}))
-        << "and nothing is left beside it";
-    ASSERT_TRUE(this->world_.files.replace_file(this->world_.path("song.nte"), "a namesake"));
-    EXPECT_EQ(this->read("SONG.NTE"), "new");
-    EXPECT_EQ(this->world_.files.replace_file(this->world_.path("Missing/x.nte"), "").error().kind,
+TEST_P(FileChanges, ReplacedFileIsWholeAndKeepsItsName) {
+    add_file("SONG.NTE", "a long old note");
+    ASSERT_TRUE(files_.replace_file(path("SONG.NTE"), "new"));
+    ASSERT_TRUE(files_.replace_file(path("other.nte"), "fresh"));
+    EXPECT_EQ(listed(), (Names{"SONG.NTE", "other.nte"})) << "and nothing is left beside it";
+    ASSERT_TRUE(files_.replace_file(path("song.nte"), "a namesake"));
+    EXPECT_EQ(read("SONG.NTE"), "new");
+    EXPECT_EQ(files_.replace_file(path("Missing/x.nte"), "").error().kind,
               FileErrorKind::not_found);
-    this->world_.add_pipe("pipe.nte");
-    EXPECT_FALSE(this->world_.files.replace_file(this->world_.path("pipe.nte"), ""));
+    add_pipe("pipe.nte");
+    EXPECT_FALSE(files_.replace_file(path("pipe.nte"), ""));
 }
 
-TYPED_TEST(FileChanges, RemovingAndRenamingTouchExactlyTheFileOfThatName) {
-    auto& files = this->world_.files;
-    const auto path = [&](const char* name) { return this->world_.path(name); };
-    this->world_.add_file("song.mid", "small");
-    this->world_.add_file("SONG.MID", "large");
-    EXPECT_FALSE(files.remove_file(path("Song.mid"))) << "which of the two?";
-    ASSERT_TRUE(files.rename_file(path("SONG.MID"), path("waltz.mid")));
-    EXPECT_EQ(this->read("waltz.mid"), "large");
-    ASSERT_TRUE(files.rename_file(path("waltz.mid"), path("Waltz.MID"))) << "a new case alone";
-    ASSERT_TRUE(files.remove_file(path("SONG.mid"))) << "its only match now";
-    EXPECT_EQ(this->listed(files.list_files(this->world_.root)), Names{"Waltz.MID"});
-    EXPECT_EQ(files.remove_file(path("gone.mid")).error().description, "File not found");
+TEST_P(FileChanges, RemovingAndRenamingTouchExactlyTheFileOfThatName) {
+    add_file("song.mid", "small");
+    add_file("SONG.MID", "large");
+    EXPECT_FALSE(files_.remove_file(path("Song.mid"))) << "which of the two?";
+    ASSERT_TRUE(files_.rename_file(path("SONG.MID"), path("waltz.mid")));
+    EXPECT_EQ(read("waltz.mid"), "large");
+    ASSERT_TRUE(files_.rename_file(path("waltz.mid"), path("Waltz.MID"))) << "a new case alone";
+    ASSERT_TRUE(files_.remove_file(path("SONG.mid"))) << "its only match now";
+    EXPECT_EQ(listed(), Names{"Waltz.MID"});
+    EXPECT_EQ(error_of(files_.remove_file(path("gone.mid"))), "File not found");
 }
 
-TYPED_TEST(FileChanges, RenamingAndMovingNeverDestroyAnotherFile) {
-    auto& files = this->world_.files;
-    const auto path = [&](const char* name) { return this->world_.path(name); };
-    this->world_.add_file("song.mid", "song");
-    this->world_.add_file("Other.mid", "other");
-    this->world_.add_folder("Folder");
-    this->world_.add_folder("store");
+TEST_P(FileChanges, RenamingAndMovingNeverDestroyAnotherFile) {
+    add_file("song.mid", "song");
+    add_file("Other.mid", "other");
+    add_folder("Folder");
+    add_folder("store");
     for (const char* taken : {"Other.mid", "OTHER.MID", "Folder"}) {
-        EXPECT_EQ(files.rename_file(path("song.mid"), path(taken)).error().kind,
+        EXPECT_EQ(files_.rename_file(path("song.mid"), path(taken)).error().kind,
                   FileErrorKind::already_exists);
-        EXPECT_EQ(files.move_file(path("song.mid"), path(taken)).error().kind,
+        EXPECT_EQ(files_.move_file(path("song.mid"), path(taken)).error().kind,
                   FileErrorKind::already_exists);
     }
-    EXPECT_EQ(files.move_file(path("song.mid"), path("SONG.mid")).error().description,
-              "Permission denied");
-    EXPECT_FALSE(files.move_file(path("song.mid"), path("nowhere/song.mid")));
-    EXPECT_EQ(this->read("song.mid") + this->read("Other.mid"), "songother");
-    ASSERT_TRUE(files.move_file(path("SONG.MID"), path("STORE/Song.mid")));
-    EXPECT_EQ(this->read("store/Song.mid"), "song");
-    EXPECT_EQ(this->read("song.mid"), "(File not found)");
+    EXPECT_EQ(error_of(files_.move_file(path("song.mid"), path("SONG.mid"))), "Permission denied");
+    EXPECT_FALSE(files_.move_file(path("song.mid"), path("nowhere/song.mid")));
+    EXPECT_EQ(read("song.mid") + read("Other.mid"), "songother");
+    ASSERT_TRUE(files_.move_file(path("SONG.MID"), path("STORE/Song.mid")));
+    EXPECT_EQ(read("store/Song.mid"), "song");
+    EXPECT_EQ(read("song.mid"), "(File not found)");
 }
 
-TYPED_TEST(FileChanges, CurrentFolderFollowsTheUser) {
-    const std::string before = this->world_.files.current_folder();
-    this->world_.add_file("Store/waltz.mid", "notes");
-    ASSERT_TRUE(this->world_.files.set_current_folder(this->world_.path("store")));
-    EXPECT_EQ(this->world_.files.current_folder(), this->world_.path("Store"));
-    EXPECT_EQ(*this->world_.files.read_file("waltz.mid", 10), "notes");
-    EXPECT_FALSE(this->world_.files.set_current_folder(this->world_.path("nowhere")));
-    EXPECT_TRUE(this->world_.files.set_current_folder(before));
+TEST_P(FileChanges, CurrentFolderFollowsTheUser) {
+    const std::string before = files_.current_folder();
+    add_file("Store/waltz.mid", "notes");
+    ASSERT_TRUE(files_.set_current_folder(path("store")));
+    EXPECT_EQ(files_.current_folder(), path("Store"));
+    EXPECT_EQ(test::read(files_, "waltz.mid"), "notes");
+    EXPECT_FALSE(files_.set_current_folder(path("nowhere")));
+    EXPECT_TRUE(files_.set_current_folder(before));
 }
 
-TEST_F(PosixFileChanges, FileWithoutWritePermissionIsKept) {
-    disk_.add_file("song.mid", "notes");
-    std::filesystem::permissions(disk_.path("song.mid"), std::filesystem::perms::owner_read);
-    EXPECT_EQ(disk_.files.remove_file(disk_.path("song.mid")).error().description,
-              "Permission denied");
-    EXPECT_EQ(disk_.files.replace_file(disk_.path("song.mid"), "x").error().description,
-              "Permission denied");
-    EXPECT_EQ(*disk_.files.read_file(disk_.path("song.mid"), 100), "notes");
-}
+TEST_F(PosixFileChanges, LeaveAFileWithoutWritePermissionAloneAndALinkAndItsModeAsTheyAre) {
+    fs::permissions(disk_.add_file("song.mid", "notes"), fs::perms::owner_read);
+    EXPECT_EQ(error_of(files_.remove_file(path("song.mid"))), "Permission denied");
+    EXPECT_EQ(error_of(files_.replace_file(path("song.mid"), "x")), "Permission denied");
+    EXPECT_EQ(read("song.mid"), "notes");
 
-TEST_F(PosixFileChanges, ReplacedLinkStaysALinkAndTheModeStaysToo) {
-    disk_.add_file("store/song.nte", "old");
-    std::filesystem::permissions(disk_.path("store/song.nte"), std::filesystem::perms(0640));
-    std::filesystem::create_symlink("store/song.nte", disk_.path("song.nte"));
-    ASSERT_TRUE(disk_.files.replace_file(disk_.path("song.nte"), "new"));
-    EXPECT_TRUE(std::filesystem::is_symlink(disk_.path("song.nte")));
-    EXPECT_EQ(*disk_.files.read_file(disk_.path("store/song.nte"), 100), "new");
-    EXPECT_EQ(std::filesystem::status(disk_.path("store/song.nte")).permissions(),
-              std::filesystem::perms(0640));
+    fs::permissions(disk_.add_file("store/song.nte", "old"), fs::perms(0640));
+    fs::create_symlink("store/song.nte", path("song.nte"));
+    ASSERT_TRUE(files_.replace_file(path("song.nte"), "new"));
+    EXPECT_TRUE(fs::is_symlink(path("song.nte")));
+    EXPECT_EQ(read("store/song.nte"), "new");
+    EXPECT_EQ(fs::status(path("store/song.nte")).permissions(), fs::perms(0640));
 }
 
 // Shared memory is a file system of its own on every Linux machine.
@@ -108,33 +91,28 @@ TEST_F(PosixFileChanges, MovingToAnotherVolumeCopiesComparesAndOnlyThenRemoves) 
     }
     const std::string notes(700'000, 'n');
     disk_.add_file("song.mid", notes);
-    EXPECT_TRUE(disk_.files.move_file(disk_.path("song.mid"), other + "/Song.mid"));
-    EXPECT_FALSE(std::filesystem::exists(disk_.path("song.mid")));
-    EXPECT_EQ(*disk_.files.read_file(other + "/Song.mid", 1'000'000), notes);
+    EXPECT_TRUE(files_.move_file(path("song.mid"), other + "/Song.mid"));
+    EXPECT_FALSE(fs::exists(path("song.mid")));
+    EXPECT_EQ(test::read(files_, other + "/Song.mid"), notes);
 
     disk_.add_file("song.mid", "another");
-    EXPECT_EQ(disk_.files.move_file(disk_.path("song.mid"), other + "/SONG.MID").error().kind,
+    EXPECT_EQ(files_.move_file(path("song.mid"), other + "/SONG.MID").error().kind,
               FileErrorKind::already_exists);
-    EXPECT_EQ(*disk_.files.read_file(disk_.path("song.mid"), 100), "another");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(other), {}), 1);
-    std::filesystem::remove_all(other);
+    EXPECT_EQ(read("song.mid"), "another");
+    EXPECT_EQ(std::distance(fs::directory_iterator(other), {}), 1);
+    fs::remove_all(other);
 }
 
 TEST_F(PosixFileChanges, FullDiskLeavesTheOldFileAndNothingBesideIt) {
     disk_.add_file("song.nte", "old");
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const auto old_action = ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{1000, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    const auto replaced = disk_.files.replace_file(disk_.path("song.nte"), std::string(2000, 'b'));
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    ::signal(SIGXFSZ, old_action);
-    ASSERT_FALSE(replaced);
-    EXPECT_EQ(replaced.error().description, "Disk full");
-    EXPECT_EQ(*disk_.files.read_file(disk_.path("song.nte"), 100), "old");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(disk_.root), {}), 1);
+    {
+        const SmallDisk small;
+        EXPECT_EQ(error_of(files_.replace_file(path("song.nte"), std::string(2000, 'b'))),
+                  "Disk full");
+    }
+    EXPECT_EQ(read("song.nte"), "old");
+    EXPECT_EQ(std::distance(fs::directory_iterator(disk_.root), {}), 1);
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

@@ -1,6 +1,6 @@
 #include "platform/desktop/local_hand_over.h"
-#include "platform/desktop/qt_event_pump.h"
-#include "platform/desktop/steady_clock.h"
+#include "real_time.h"
+#include "temporary_folder.h"
 
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -10,48 +10,37 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <cstring>
-#include <filesystem>
 #include <optional>
-#include <string>
 #include <vector>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
 
-constexpr Milliseconds kTooLong = 3000;
+using Log = std::vector<std::string>;
 constexpr uid_t kSomebodyElse = 65534;
 
-class HandOverTest : public testing::Test {
+class HandOverTest : public testing::Test, public RealTime {
   protected:
     HandOverTest() {
-        std::string pattern = testing::TempDir() + "zephyne-run-XXXXXX";
-        folder_ = ::mkdtemp(pattern.data());
         if (const char* previous = std::getenv("XDG_RUNTIME_DIR")) previous_ = previous;
-        ::setenv("XDG_RUNTIME_DIR", folder_.c_str(), 1);
+        ::setenv("XDG_RUNTIME_DIR", folder_.root.c_str(), 1);
     }
     ~HandOverTest() override {
-        std::filesystem::remove_all(folder_);
-        if (previous_) {
-            ::setenv("XDG_RUNTIME_DIR", previous_->c_str(), 1);
-        } else {
-            ::unsetenv("XDG_RUNTIME_DIR");
-        }
+        ::unsetenv("XDG_RUNTIME_DIR");
+        if (previous_) ::setenv("XDG_RUNTIME_DIR", previous_->c_str(), 1);
     }
 
-    // Writes down what reaches this copy.
-    void listen(LocalHandOver& copy) {
+    // Takes the place, and writes down what reaches this copy.
+    void take_place(LocalHandOver& copy) {
         copy.on_bring_forward = [this] { log_.emplace_back("forward"); };
         copy.on_poke = [this](const std::string& text) { log_.push_back("poke " + text); };
+        EXPECT_FALSE(copy.another_copy_runs());
     }
-
-    void run_until_logged(std::size_t messages) {
-        RepeatingTimer alarm(scheduler_, kTooLong);
-        bool late = false;
-        alarm.on_tick = [&] { late = true; };
-        alarm.set_enabled(true);
-        while (log_.size() < messages && !late) pump_.wait();
+    void expect_heard(const Log& expected) {
+        EXPECT_TRUE(log_.empty()) << "heard from the event loop only";
+        run_until([&] { return log_.size() >= expected.size(); });
+        EXPECT_EQ(log_, expected);
     }
 
     // A copy in a process of its own, which takes the place and then never answers.
@@ -80,7 +69,7 @@ class HandOverTest : public testing::Test {
     sockaddr_un address() const {
         sockaddr_un result{};
         result.sun_family = AF_UNIX;
-        std::strncpy(result.sun_path, (folder_ + "/test.socket").c_str(),
+        std::strncpy(result.sun_path, folder_.path("test.socket").c_str(),
                      sizeof result.sun_path - 1);
         return result;
     }
@@ -92,19 +81,15 @@ class HandOverTest : public testing::Test {
                   static_cast<ssize_t>(message.size()));
     }
 
-    std::string folder_;
+    TemporaryFolder folder_;
     std::optional<std::string> previous_;
-    SteadyClock clock_;
-    Scheduler scheduler_{clock_};
-    QtEventPump pump_{scheduler_};
-    std::vector<std::string> log_;
+    Log log_;
 };
 
 TEST_F(HandOverTest, SecondCopyFindsThePlaceTakenAndIsHeardInOrder) {
     LocalHandOver first(scheduler_, "test");
     LocalHandOver second(scheduler_, "test");
-    listen(first);
-    EXPECT_FALSE(first.another_copy_runs());
+    take_place(first);
     EXPECT_TRUE(second.another_copy_runs());
     EXPECT_FALSE(first.another_copy_runs()) << "it must not mistake itself for another";
 
@@ -114,25 +99,18 @@ TEST_F(HandOverTest, SecondCopyFindsThePlaceTakenAndIsHeardInOrder) {
     second.poke(bytes);
     second.poke("");
     second.poke(longest);
-    EXPECT_TRUE(log_.empty()) << "heard from the event loop only";
-    run_until_logged(4);
-    EXPECT_EQ(log_,
-              (std::vector<std::string>{"forward", "poke " + bytes, "poke ", "poke " + longest}));
+    expect_heard({"forward", "poke " + bytes, "poke ", "poke " + longest});
 }
 
-TEST_F(HandOverTest, CopiesWithOtherNamesDoNotMeet) {
-    LocalHandOver one(scheduler_, "one");
-    LocalHandOver two(scheduler_, "two/../one");
-    EXPECT_FALSE(one.another_copy_runs());
-    EXPECT_FALSE(two.another_copy_runs());
-}
-
-TEST_F(HandOverTest, PlaceIsFreeAgainWhenItsHolderEnds) {
+TEST_F(HandOverTest, PlaceIsItsHoldersOfThatNameUntilHeEnds) {
     LocalHandOver next(scheduler_, "test");
     {
         LocalHandOver first(scheduler_, "test");
-        EXPECT_FALSE(first.another_copy_runs());
+        take_place(first);
         EXPECT_TRUE(next.another_copy_runs());
+        for (const char* name : {"another", "another/../test"}) {
+            EXPECT_FALSE(LocalHandOver(scheduler_, name).another_copy_runs());
+        }
     }
     EXPECT_FALSE(next.another_copy_runs());
 }
@@ -142,15 +120,13 @@ TEST_F(HandOverTest, PlaceOfACrashedCopyIsTakenOver) {
     LocalHandOver next(scheduler_, "test");
     EXPECT_TRUE(next.another_copy_runs());
     kill(crashing);
-    ASSERT_TRUE(std::filesystem::exists(folder_ + "/test.socket")) << "it was to leave its socket";
+    ASSERT_TRUE(std::filesystem::exists(folder_.path("test.socket"))) << "it was to be left";
 
-    listen(next);
-    EXPECT_FALSE(next.another_copy_runs());
+    take_place(next);
     LocalHandOver third(scheduler_, "test");
     EXPECT_TRUE(third.another_copy_runs());
     third.poke("song.mid");
-    run_until_logged(1);
-    EXPECT_EQ(log_, std::vector<std::string>{"poke song.mid"});
+    expect_heard({"poke song.mid"});
 }
 
 TEST_F(HandOverTest, FrozenCopyHoldsNobodyUp) {
@@ -167,22 +143,16 @@ TEST_F(HandOverTest, FrozenCopyHoldsNobodyUp) {
 
 TEST_F(HandOverTest, MessagesThatAreTooLongOrUnknownAreDropped) {
     LocalHandOver first(scheduler_, "test");
-    listen(first);
-    ASSERT_FALSE(first.another_copy_runs());
+    take_place(first);
     send_raw("poke " + std::string(LocalHandOver::longest_command_line + 1, 'x'));
-    send_raw("forwards");
-    send_raw("poke");
-    send_raw("");
-    send_raw("forward");
-    run_until_logged(1);
-    EXPECT_EQ(log_, std::vector<std::string>{"forward"});
+    for (const char* message : {"forwards", "poke", "", "forward"}) send_raw(message);
+    expect_heard({"forward"});
 }
 
 TEST_F(HandOverTest, MessagesOfAnotherUserAreDropped) {
     if (::geteuid() != 0) GTEST_SKIP() << "only the administrator can become another user";
     LocalHandOver first(scheduler_, "test");
-    listen(first);
-    ASSERT_FALSE(first.another_copy_runs());
+    take_place(first);
     const pid_t child = ::fork();
     if (child == 0) {
         const int socket = ::socket(AF_UNIX, SOCK_DGRAM, 0);
@@ -196,18 +166,17 @@ TEST_F(HandOverTest, MessagesOfAnotherUserAreDropped) {
     ::waitpid(child, &status, 0);
     ASSERT_EQ(status, 0) << "the message was never sent";
     send_raw("poke mine");
-    run_until_logged(1);
-    EXPECT_EQ(log_, std::vector<std::string>{"poke mine"});
+    expect_heard({"poke mine"});
 }
 
 TEST_F(HandOverTest, FolderThatOthersCanEnterIsNotUsed) {
-    std::filesystem::permissions(folder_, std::filesystem::perms(0755));
-    ::setenv("TMPDIR", folder_.c_str(), 1);
+    std::filesystem::permissions(folder_.root, std::filesystem::perms(0755));
+    ::setenv("TMPDIR", folder_.root.c_str(), 1);
     LocalHandOver first(scheduler_, "test");
-    EXPECT_FALSE(first.another_copy_runs());
+    take_place(first);
     ::unsetenv("TMPDIR");
 
-    const std::string own = folder_ + "/zephyne-" + std::to_string(::geteuid());
+    const std::string own = folder_.path("zephyne-" + std::to_string(::geteuid()));
     const auto mode_of = [](const std::string& path) {
         struct stat status {};
         EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
@@ -219,4 +188,4 @@ TEST_F(HandOverTest, FolderThatOthersCanEnterIsNotUsed) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

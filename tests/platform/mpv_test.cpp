@@ -1,23 +1,15 @@
-#include "platform/desktop/qt_event_pump.h"
-#include "platform/desktop/steady_clock.h"
 #include "platform/video/mpv_backend.h"
+#include "real_time.h"
+#include "temporary_folder.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <chrono>
-#include <cstdint>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
 #include <thread>
-#include <vector>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
 
-constexpr Milliseconds kTooLong = 3000;
 constexpr std::uint32_t kRate = 44100;
 
 // Numbers as RIFF files have them, the low byte first.
@@ -60,11 +52,9 @@ std::string video_of(std::uint32_t pictures) {
                              chunk("LIST", "movi" + frames));
 }
 
-class MpvBackendTest : public testing::Test {
+class MpvBackendTest : public testing::Test, public RealTime {
   protected:
     MpvBackendTest() {
-        std::string pattern = testing::TempDir() + "zephyne-mpv-XXXXXX";
-        folder_ = ::mkdtemp(pattern.data());
         backend_.on_finished = [this] {
             ++ends_;
             EXPECT_EQ(backend_.mode(), DeviceMode::stopped);
@@ -72,39 +62,24 @@ class MpvBackendTest : public testing::Test {
         };
         backend_.on_failed = [] { ADD_FAILURE() << "playing failed"; };
     }
-    ~MpvBackendTest() override { std::filesystem::remove_all(folder_); }
 
-    std::string file(const std::string& name, const std::string& contents) const {
-        const std::string path = folder_ + "/" + name;
-        std::ofstream(path, std::ios::binary) << contents;
-        return path;
-    }
     void open_wave(Milliseconds length) {
-        const auto opened = backend_.open(file("sound.wav", wave_of(length)));
-        ASSERT_TRUE(opened) << opened.error();
+        EXPECT_EQ(error_of(folder_.add_file("sound.wav", wave_of(length))), "none");
     }
     std::string error_of(const std::string& path) {
         const auto opened = backend_.open(path);
         EXPECT_EQ(backend_.mode(), opened ? DeviceMode::stopped : DeviceMode::not_open);
         return opened ? "none" : opened.error();
     }
-    void run_for(Milliseconds time) {
-        RepeatingTimer alarm(scheduler_, time);
-        bool over = false;
-        alarm.on_tick = [&] { over = true; };
-        alarm.set_enabled(true);
-        while (!over) pump_.wait();
-    }
     void run_until_end() {
-        const Milliseconds deadline = clock_.now() + kTooLong;
-        const int before = ends_;
-        while (ends_ == before && clock_.now() < deadline) run_for(5);
+        run_until([this, before = ends_] { return ends_ != before; });
+    }
+    // Time in which no events are handled.
+    static void sleep_for(Milliseconds time) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(time));
     }
 
-    std::string folder_;
-    SteadyClock clock_;
-    Scheduler scheduler_{clock_};
-    QtEventPump pump_{scheduler_};
+    TemporaryFolder folder_;
     MpvBackend backend_{scheduler_, "null"};
     int ends_ = 0;
 };
@@ -169,7 +144,7 @@ TEST_F(MpvBackendTest, SongThatIsHeldWhileItIsMovedStaysAtTheNewPlace) {
 // The library writes all that would be heard into a file in the working folder.
 TEST_F(MpvBackendTest, NothingIsHeardOfASongThatIsMovedWhileItIsHeld) {
     const auto before = std::filesystem::current_path();
-    std::filesystem::current_path(folder_);
+    std::filesystem::current_path(folder_.root);
     const auto heard = [] {
         std::error_code none_yet;
         const auto size = std::filesystem::file_size("audiodump.wav", none_yet);
@@ -177,7 +152,7 @@ TEST_F(MpvBackendTest, NothingIsHeardOfASongThatIsMovedWhileItIsHeld) {
     };
     {
         MpvBackend backend(scheduler_, "pcm");
-        ASSERT_TRUE(backend.open(file("sound.wav", wave_of(60000))));
+        ASSERT_TRUE(backend.open(folder_.add_file("sound.wav", wave_of(60000))));
         backend.pause();
         for (const Milliseconds place : {30000, 10000, 40000, 20000, 50000}) {
             backend.play_from(place);
@@ -209,10 +184,10 @@ TEST_F(MpvBackendTest, PlayingWhereNothingIsLeftEndsAfterAMoment) {
     EXPECT_EQ(ends_, 2);
 }
 
-TEST_F(MpvBackendTest, EndThatComesDuringAPauseIsToldWhenPlayingGoesOn) {
-    open_wave(50);
+TEST_F(MpvBackendTest, EndThatComesDuringAPauseWaitsAndIsForgottenWhenPlayingBeginsAnew) {
+    open_wave(100);
     backend_.play();
-    std::this_thread::sleep_for(std::chrono::milliseconds(250));  // no events are handled here
+    sleep_for(250);
     backend_.pause();
     run_for(20);
     EXPECT_EQ(ends_, 0);
@@ -220,18 +195,15 @@ TEST_F(MpvBackendTest, EndThatComesDuringAPauseIsToldWhenPlayingGoesOn) {
     backend_.play();
     run_until_end();
     EXPECT_EQ(ends_, 1);
-}
 
-TEST_F(MpvBackendTest, EndNotYetToldIsForgottenWhenPlayingBeginsAnew) {
-    open_wave(100);
-    backend_.play();
-    std::this_thread::sleep_for(std::chrono::milliseconds(250));
+    backend_.play_from(0);
+    sleep_for(250);
     const Milliseconds start = clock_.now();
     backend_.play_from(0);
     run_until_end();
     EXPECT_GE(clock_.now() - start, 90);
     run_for(30);
-    EXPECT_EQ(ends_, 1);
+    EXPECT_EQ(ends_, 2);
 }
 
 TEST_F(MpvBackendTest, EndThatWasWaitedForOrClosedAwayIsNotTold) {
@@ -245,7 +217,7 @@ TEST_F(MpvBackendTest, EndThatWasWaitedForOrClosedAwayIsNotTold) {
     EXPECT_EQ(backend_.position(), 60);
 
     backend_.play_from(0);
-    std::this_thread::sleep_for(std::chrono::milliseconds(150));
+    sleep_for(150);
     backend_.close();
     EXPECT_EQ(backend_.mode(), DeviceMode::not_open);
     EXPECT_EQ(backend_.length(), 0);
@@ -257,47 +229,42 @@ TEST_F(MpvBackendTest, EndThatWasWaitedForOrClosedAwayIsNotTold) {
 }
 
 TEST_F(MpvBackendTest, WhatIsNoSoundOrVideoIsRefusedWithAWord) {
-    EXPECT_EQ(error_of(folder_ + "/gone.wav"), "File not found");
-    EXPECT_EQ(error_of(folder_), "Not an ordinary file");
-    ::mkfifo((folder_ + "/pipe.wav").c_str(), 0600);
-    EXPECT_EQ(error_of(folder_ + "/pipe.wav"), "Not an ordinary file");
-    EXPECT_EQ(error_of(file("empty.wav", "")), "The file has an unknown format");
-    EXPECT_EQ(error_of(file("text.wav", "no sound at all")), "The file has an unknown format");
-
-    const std::string song = file("real.wav", wave_of(100));
-    EXPECT_EQ(error_of(file("list.wav", "#EXTM3U\n" + song + "\n")),
-              "The file has an unknown format")
-        << "a list of other files must not be followed";
-    EXPECT_EQ(error_of(file("edl.wav", "# mpv EDL v0\n" + song + "\n")),
-              "The file has an unknown format");
+    const std::string song = folder_.add_file("real.wav", wave_of(100));
+    ::mkfifo(folder_.path("pipe.wav").c_str(), 0600);
+    EXPECT_EQ(error_of(folder_.path("gone.wav")), "File not found");
+    EXPECT_EQ(error_of(folder_.root), "Not an ordinary file");
+    EXPECT_EQ(error_of(folder_.path("pipe.wav")), "Not an ordinary file");
+    // Lists of other files must not be followed.
+    for (const std::string& text : {std::string(), std::string("no sound at all"),
+                                    "#EXTM3U\n" + song, "# mpv EDL v0\n" + song}) {
+        EXPECT_EQ(error_of(folder_.add_file("text.wav", text)), "The file has an unknown format")
+            << text;
+    }
     EXPECT_EQ(error_of(song), "none") << "the player has survived all that";
 }
 
-TEST_F(MpvBackendTest, DamagedFilesPlayAsFarAsTheyGo) {
+TEST_F(MpvBackendTest, DamagedFilesAndVideosWithoutSoundPlayAsFarAsTheyGo) {
     const std::string whole = wave_of(1000);
-    ASSERT_EQ(error_of(file("cut.wav", whole.substr(0, whole.size() / 10))), "none");
+    ASSERT_EQ(error_of(folder_.add_file("cut.wav", whole.substr(0, whole.size() / 10))), "none");
     backend_.play();
     run_until_end();
     EXPECT_EQ(ends_, 1);
-}
 
-TEST_F(MpvBackendTest, NamesAreBytesAndNoCommands) {
-    for (const char* name : {"\xE9t\xE9 \x80.wav", "${path} $$ %n.wav", "http:--a.wav", "#1.wav"}) {
-        EXPECT_EQ(error_of(file(name, wave_of(20))), "none") << name;
-        EXPECT_EQ(backend_.length(), 20);
-    }
-}
-
-TEST_F(MpvBackendTest, VideoWithoutSoundPlaysToItsEnd) {
-    const auto opened = backend_.open(file("clip.avi", video_of(3)));
-    ASSERT_TRUE(opened) << opened.error();
+    ASSERT_EQ(error_of(folder_.add_file("clip.avi", video_of(3))), "none");
     EXPECT_EQ(backend_.length(), 300);
     const Milliseconds start = clock_.now();
     backend_.play_from(100);
     run_until_end();
-    EXPECT_EQ(ends_, 1);
+    EXPECT_EQ(ends_, 2);
     EXPECT_GE(clock_.now() - start, 100);
 }
 
+TEST_F(MpvBackendTest, NamesAreBytesAndNoCommands) {
+    for (const char* name : {"\xE9t\xE9 \x80.wav", "${path} $$ %n.wav", "http:--a.wav", "#1.wav"}) {
+        EXPECT_EQ(error_of(folder_.add_file(name, wave_of(20))), "none") << name;
+        EXPECT_EQ(backend_.length(), 20);
+    }
+}
+
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

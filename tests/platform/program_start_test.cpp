@@ -1,65 +1,47 @@
 #include "platform/desktop/program_start.h"
 
 #include "platform/files/posix_file_system.h"
+#include "temporary_folder.h"
 #include "tests/support/memory_file_system.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
-#include <vector>
-
-namespace zephyne {
+namespace zephyne::test {
 namespace {
 
 class ProgramFoldersTest : public testing::Test {
   protected:
-    ProgramFoldersTest() {
-        std::string pattern = testing::TempDir() + "zephyne-start-XXXXXX";
-        root_ = ::mkdtemp(pattern.data());
-        surroundings_.executable_folder = root_ + "/usr/bin";
-        surroundings_.user_configuration = root_ + "/home/.config";
-        surroundings_.system_data = {root_ + "/opt/share"};
-    }
-    ~ProgramFoldersTest() override { std::filesystem::remove_all(root_); }
-
-    void put_data(const std::string& folder) const {
-        std::filesystem::create_directories(root_ + folder);
-        std::ofstream(root_ + folder + "/gm_reset.aut") << "x";
-    }
+    void put_data(const std::string& folder) const { root_.add_file(folder + "/gm_reset.aut"); }
     // "own | installed", below the root of this test.
     std::string chosen() const {
         const ProgramFolders folders = program_folders(files_, surroundings_);
         EXPECT_TRUE(std::filesystem::is_directory(folders.own));
         const auto shown = [&](const std::string& folder) {
-            return folder.empty() ? "none" : folder.substr(root_.size());
+            return folder.empty() ? "none" : folder.substr(root_.root.size());
         };
         return shown(folders.own) + " | " + shown(folders.installed);
     }
 
     PosixFileSystem files_;
-    std::string root_;
-    StartSurroundings surroundings_;
+    TemporaryFolder root_;
+    StartSurroundings surroundings_{.executable_folder = root_.path("usr/bin"),
+                                    .user_configuration = root_.path("home/.config"),
+                                    .system_data = {root_.path("opt/share")}};
 };
-
-TEST_F(ProgramFoldersTest, DataBesideTheExecutableMakesThatTheFolderForAll) {
-    put_data("/usr/bin");
-    put_data("/usr/share/zephyne");
-    EXPECT_EQ(chosen(), "/usr/bin | /usr/bin");
-}
 
 TEST_F(ProgramFoldersTest, InstalledProgramKeepsSettingsWithTheUser) {
     EXPECT_EQ(chosen(), "/home/.config/zephyne | none");
-    put_data("/opt/share/zephyne");
+    put_data("opt/share/zephyne");
     EXPECT_EQ(chosen(), "/home/.config/zephyne | /opt/share/zephyne");
-    put_data("/usr/share/zephyne");
+    put_data("usr/share/zephyne");
     EXPECT_EQ(chosen(), "/home/.config/zephyne | /usr/share/zephyne");
 }
 
-TEST_F(ProgramFoldersTest, OverridingHomeTakesTheSettingsAndLeavesTheData) {
-    surroundings_.home_override = root_ + "/elsewhere/new";
-    put_data("/usr/bin");
+TEST_F(ProgramFoldersTest, DataBesideTheExecutableMakesThatTheFolderForAllButForAHomeOfItsOwn) {
+    put_data("usr/bin");
+    put_data("usr/share/zephyne");
+    EXPECT_EQ(chosen(), "/usr/bin | /usr/bin");
+    surroundings_.home_override = root_.path("elsewhere/new");
     EXPECT_EQ(chosen(), "/elsewhere/new | /usr/bin");
 }
 
@@ -84,4 +66,4 @@ TEST(CommandLine, ArgumentsAreJoinedAndARelativePathThatIsThereBecomesAbsolute) 
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

@@ -6,9 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
-#include <string>
-#include <utility>
 
 namespace zephyne::test {
 

@@ -10,12 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <cstdint>
-#include <initializer_list>
-#include <memory>
-#include <string>
-#include <vector>
 
 namespace zephyne::test {
 
@@ -102,16 +98,15 @@ class RenderingTest : public testing::Test {
 
     int voices() { return fluid_synth_get_active_voice_count(synthesizer_.library_object()); }
 
-    int bank_of(int channel) {
-        int font = 0, bank = 0, program = 0;
-        fluid_synth_get_program(synthesizer_.library_object(), channel, &font, &bank, &program);
-        return bank;
+    // {sound font, bank, program}
+    std::array<int, 3> preset_of(int channel) {
+        std::array<int, 3> preset{};
+        fluid_synth_get_program(synthesizer_.library_object(), channel, &preset[0], &preset[1],
+                                &preset[2]);
+        return preset;
     }
-    int program_of(int channel) {
-        int font = 0, bank = 0, program = 0;
-        fluid_synth_get_program(synthesizer_.library_object(), channel, &font, &bank, &program);
-        return program;
-    }
+    int bank_of(int channel) { return preset_of(channel)[1]; }
+    int program_of(int channel) { return preset_of(channel)[2]; }
 
     // What a channel has been told: its controllers other than 0, and so on.
     std::string told(int channel) {

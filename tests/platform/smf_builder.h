@@ -4,9 +4,6 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
-#include <string_view>
-#include <vector>
 
 namespace zephyne::test {
 

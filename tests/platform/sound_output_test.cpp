@@ -3,29 +3,20 @@
 #include "platform/sound/audio_keeper.h"
 #include "platform/sound/clock_audio_device.h"
 #include "platform/sound/wave_file_writer.h"
+#include "temporary_folder.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
-#include <chrono>
 #include <condition_variable>
-#include <filesystem>
-#include <fstream>
-#include <functional>
-#include <memory>
-#include <mutex>
-#include <string>
 #include <thread>
-#include <vector>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
 
 using namespace std::chrono_literals;
-namespace fs = std::filesystem;
 
 class Source final : public AudioSource {
   public:
@@ -134,46 +125,47 @@ constexpr AudioPatience kHurry{.open_and_close = 300ms,
                                .look = 5ms};
 
 struct AudioKeeperTest : testing::Test {
+    // With these devices, of which the last one stands in for all others.
+    std::unique_ptr<AudioKeeper> keep(std::vector<OpenDevice> devices, AudioPatience patience) {
+        auto keeper = std::make_unique<AudioKeeper>(
+            AudioPlan{std::move(devices), device(log, "last"), "Nothing."}, patience);
+        keeper->connect(source);
+        keeper->wake();
+        return keeper;
+    }
+
     LogPointer log = std::make_shared<Log>();
     Source source;
 };
 
 TEST_F(AudioKeeperTest, TakesTheFirstDeviceThatOpens) {
-    AudioKeeper keeper({{no_device(log, "a"), device(log, "b"), device(log, "c")},
-                        device(log, "last"),
-                        "Nothing."},
-                       kPatient);
-    keeper.connect(source);
-    keeper.wake();
+    const auto keeper = keep({no_device(log, "a"), device(log, "b"), device(log, "c")}, kPatient);
     EXPECT_TRUE(log->comes_to("b opened"));
     while (source.rendered < 3) std::this_thread::sleep_for(1ms);
-    EXPECT_EQ(keeper.take_problem(), std::nullopt);
+    EXPECT_EQ(keeper->take_problem(), std::nullopt);
     EXPECT_EQ(log->lines(), (std::vector<std::string>{"a failed", "b opened"}));
 }
 
 TEST_F(AudioKeeperTest, PlaysOnSilentlyAndSaysSoOnceWhenNoDeviceOpens) {
-    AudioKeeper keeper({{no_device(log, "a")}, device(log, "last"), "Nothing."}, kPatient);
-    keeper.connect(source);
-    keeper.wake();
-    EXPECT_FALSE(keeper.settled());
+    const auto keeper = keep({no_device(log, "a")}, kPatient);
+    EXPECT_FALSE(keeper->settled());
     EXPECT_TRUE(log->comes_to("last opened"));
-    while (!keeper.settled()) std::this_thread::sleep_for(1ms);
-    EXPECT_EQ(keeper.take_problem(), "Nothing.");
+    while (!keeper->settled()) std::this_thread::sleep_for(1ms);
+    EXPECT_EQ(keeper->take_problem(), "Nothing.");
     source.has_nothing_to_say = true;
     EXPECT_TRUE(log->comes_to("last closed"));
     source.has_nothing_to_say = false;
-    keeper.wake();  // tries all anew
+    keeper->wake();  // tries all anew
     EXPECT_TRUE(log->comes_to("last opened"));
-    while (!keeper.settled()) std::this_thread::sleep_for(1ms);
-    EXPECT_EQ(keeper.take_problem(), std::nullopt);
+    while (!keeper->settled()) std::this_thread::sleep_for(1ms);
+    EXPECT_EQ(keeper->take_problem(), std::nullopt);
 }
 
 TEST_F(AudioKeeperTest, ClosesTheDeviceWhenThereIsNothingToHearAndOpensItAgain) {
-    AudioKeeper keeper({{device(log, "a")}, device(log, "last"), "Nothing."}, kPatient);
-    keeper.connect(source);
+    const auto keeper = keep({device(log, "a")}, kPatient);
     for (int round = 0; round < 2; ++round) {
         source.has_nothing_to_say = false;
-        keeper.wake();
+        keeper->wake();
         EXPECT_TRUE(log->comes_to("a opened"));
         std::this_thread::sleep_for(150ms);
         EXPECT_EQ(log->lines().back(), "a opened");
@@ -183,41 +175,30 @@ TEST_F(AudioKeeperTest, ClosesTheDeviceWhenThereIsNothingToHearAndOpensItAgain) 
 }
 
 TEST_F(AudioKeeperTest, ReplacesADeviceThatStopsAskingForSound) {
-    AudioKeeper keeper({{device(log, "dies", 200)}, device(log, "last"), "Nothing."}, kHurry);
-    keeper.connect(source);
-    keeper.wake();
+    const auto keeper = keep({device(log, "dies", 200)}, kHurry);
     EXPECT_TRUE(log->comes_to("dies closed"));
     EXPECT_TRUE(log->comes_to("dies opened"));  // it may have been only its server
 }
 
 TEST_F(AudioKeeperTest, GivesUpADeviceThatDoesNotStart) {
-    AudioKeeper keeper(
-        {{device(log, "mute", 2), device(log, "b")}, device(log, "last"), "Nothing."}, kHurry);
-    keeper.connect(source);
-    keeper.wake();
+    const auto keeper = keep({device(log, "mute", 2), device(log, "b")}, kHurry);
     EXPECT_TRUE(log->comes_to("b opened"));
     EXPECT_EQ(log->lines(), (std::vector<std::string>{"mute opened", "mute closed", "b opened"}));
 }
 
-TEST_F(AudioKeeperTest, DoesNotWaitForADeviceThatHangsWhenItIsOpened) {
+TEST_F(AudioKeeperTest, DoesNotWaitForADeviceThatHangsWhenItIsOpenedOrClosed) {
     const auto slow = [this](std::shared_ptr<AudioGate> gate) {
         std::this_thread::sleep_for(800ms);
         return std::make_unique<FakeDevice>(log, "slow", std::move(gate), kForever, 0ms);
     };
-    AudioKeeper keeper({{slow, device(log, "b")}, device(log, "last"), "Nothing."}, kHurry);
-    keeper.connect(source);
-    keeper.wake();
+    auto keeper = keep({slow, device(log, "b")}, kHurry);
     EXPECT_TRUE(log->comes_to("b opened"));
     EXPECT_TRUE(log->comes_to("slow opened"));  // too late to be of use
     EXPECT_TRUE(log->comes_to("slow closed"));
-    EXPECT_FALSE(source.entered_twice);
-}
 
-TEST_F(AudioKeeperTest, DoesNotWaitForADeviceThatHangsWhenItIsClosed) {
-    AudioKeeper keeper({{device(log, "stuck", 200, 800ms)}, device(log, "last"), "Nothing."},
-                       kHurry);
-    keeper.connect(source);
-    keeper.wake();
+    keeper.reset();
+    log = std::make_shared<Log>();
+    keeper = keep({device(log, "stuck", 200, 800ms)}, kHurry);
     EXPECT_TRUE(log->comes_to("stuck closed"));
     EXPECT_EQ(log->lines()[1], "stuck opened");  // again, long before
     EXPECT_FALSE(source.entered_twice);
@@ -228,11 +209,10 @@ TEST_F(AudioKeeperTest, NeverMissesAWakeUp) {
     AudioPatience patience = kPatient;
     patience.idle = 1ms;
     patience.look = 1ms;
-    AudioKeeper keeper({{device(log, "a")}, device(log, "last"), "Nothing."}, patience);
-    keeper.connect(source);
+    const auto keeper = keep({device(log, "a")}, patience);
     for (int round = 0; round < 100; ++round) {
         source.has_nothing_to_say = false;
-        keeper.wake();
+        keeper->wake();
         const int before = source.rendered;
         const auto limit = std::chrono::steady_clock::now() + 10s;
         while (source.rendered == before) {
@@ -246,23 +226,21 @@ TEST_F(AudioKeeperTest, NeverMissesAWakeUp) {
 
 class WaveFile : public testing::Test {
   protected:
-    ~WaveFile() override { fs::remove(path_); }
-
-    std::vector<std::uint8_t> bytes() const {
+    std::string bytes() const {
         std::ifstream file(path_, std::ios::binary);
-        std::vector<std::uint8_t> all(fs::file_size(path_));
-        file.read(reinterpret_cast<char*>(all.data()), static_cast<std::streamsize>(all.size()));
-        return all;
+        return {std::istreambuf_iterator<char>(file), {}};
     }
     std::uint32_t number_at(std::size_t place) const {
-        const auto all = bytes();
-        return all[place] | all[place + 1] << 8 | all[place + 2] << 16 |
-               static_cast<std::uint32_t>(all[place + 3]) << 24;
+        const std::string all = bytes();
+        std::uint32_t number = 0;  // the low byte comes first
+        for (const std::size_t i : {3, 2, 1, 0}) {
+            number = number << 8 | static_cast<std::uint8_t>(all.at(place + i));
+        }
+        return number;
     }
 
-    std::string path_ =
-        (fs::temp_directory_path() / ("zephyne-wave-" + std::to_string(getpid()) + ".wav"))
-            .string();
+    TemporaryFolder folder_;
+    std::string path_ = folder_.path("sound.wav");
 };
 
 TEST_F(WaveFile, IsWholeWhileItIsWrittenAndAfterwards) {
@@ -281,8 +259,8 @@ TEST_F(WaveFile, IsWholeWhileItIsWrittenAndAfterwards) {
     const auto all = bytes();
     EXPECT_EQ(all.size(), 44U + 4 * 100'000);
     EXPECT_EQ(number_at(40), 4U * 100'000);
-    EXPECT_EQ(std::string(all.begin(), all.begin() + 4), "RIFF");
-    EXPECT_EQ(std::string(all.begin() + 8, all.begin() + 16), "WAVEfmt ");
+    EXPECT_EQ(all.substr(0, 4), "RIFF");
+    EXPECT_EQ(all.substr(8, 8), "WAVEfmt ");
     EXPECT_EQ(number_at(20), 0x00020001U);  // PCM, two sides
     EXPECT_EQ(number_at(24), 44100U);
     EXPECT_EQ(number_at(44), 0x80014000U);  // 0.5 and, cut off, -1
@@ -312,4 +290,4 @@ TEST_F(WaveFile, TakesTheSoundInRealTimeAndGoesOnWhenTheDeviceIsOpenedAgain) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

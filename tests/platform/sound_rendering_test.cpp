@@ -3,16 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdint>
-#include <memory>
-#include <string>
-#include <vector>
-
-namespace zephyne {
+namespace zephyne::test {
 namespace {
-
-using namespace test;
 
 TEST_F(RenderingTest, AWishWaitsUntilTheSoundFontIsThere) {
     Synthesizer synthesizer;
@@ -20,14 +12,14 @@ TEST_F(RenderingTest, AWishWaitsUntilTheSoundFontIsThere) {
     EXPECT_TRUE(renderer.idle());
     const MidiSong song = *parse_standard_midi_file(smf(0, kTicksAreMilliseconds, {held_note()}));
     renderer.submit({.number = 1, .song = &song, .song_serial = 1, .state = State::playing});
-    std::array<float, 64> left{1.0F};
-    std::array<float, 64> right{1.0F};
-    renderer.render(left.data(), right.data(), 64);
+    float left[64] = {1.0F};
+    float right[64] = {1.0F};
+    renderer.render(left, right, 64);
     EXPECT_EQ(left[0], 0.0F);
     EXPECT_EQ(renderer.progress().number, 0U);
     EXPECT_FALSE(renderer.idle());
     renderer.set_ready();
-    renderer.render(left.data(), right.data(), 64);
+    renderer.render(left, right, 64);
     EXPECT_EQ(renderer.progress().end_frame, 64);
 }
 
@@ -107,12 +99,9 @@ TEST_F(RenderingTest, NothingThatTheUserDoesClicks) {
         go_to(200 + 10 * round);
         wish(State::playing);
         render(50);
-        open({held_note(), Track()
-                               .at(static_cast<std::uint32_t>(100 + round))
-                               .exclusive(kGmOn)
-                               .program(0, kOcarina)
-                               .note_on(0, 74, 100)
-                               .end_at(60'000)});
+        const auto reset = static_cast<std::uint32_t>(100 + round);
+        open({held_note(),
+              Track().at(reset).exclusive(kGmOn).program(0, kOcarina).note_on(0, 74, 100)});
         render(200);
         wish(State::stopped);
         render(30);
@@ -123,6 +112,7 @@ TEST_F(RenderingTest, NothingThatTheUserDoesClicks) {
     }
     EXPECT_LT(heard_.largest_jump(), smooth * 2);
 }
+
 TEST_F(RenderingTest, MasterVolumeMessagesAndTheOutputVolumeMakeItQuieter) {
     open({held_note()});
     render(500);
@@ -139,4 +129,4 @@ TEST_F(RenderingTest, MasterVolumeMessagesAndTheOutputVolumeMakeItQuieter) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

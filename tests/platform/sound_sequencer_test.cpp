@@ -5,13 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
-namespace zephyne {
+namespace zephyne::test {
 namespace {
 
-using namespace test;
 using Lines = std::vector<std::string>;
 
 class RecordingSink final : public MidiSink {
@@ -73,19 +69,11 @@ struct SequencerTest : testing::Test {
 };
 
 TEST_F(SequencerTest, SendsEveryKindOfEventAtTheFrameOfItsTime) {
-    const std::vector<Track> tracks = {Track()
-                                           .exclusive({0x7E, 0x7F, 9, 1})
-                                           .program(9, 8)
-                                           .at(10)
-                                           .controller(1, 7, 100)
-                                           .pitch_bend(2, 16383)
-                                           .channel_pressure(3, 4)
-                                           .at(1000)
-                                           .note_on(15, 60, 127)
-                                           .key_pressure(15, 60, 5)
-                                           .at(1001)
-                                           .note_off(15, 60)
-                                           .end_at(2000)};
+    Track track;
+    track.exclusive({0x7E, 0x7F, 9, 1}).program(9, 8);
+    track.at(10).controller(1, 7, 100).pitch_bend(2, 16383).channel_pressure(3, 4);
+    track.at(1000).note_on(15, 60, 127).key_pressure(15, 60, 5);
+    track.at(1001).note_off(15, 60).end_at(2000);
     const Lines expected = {"at 0",
                             "exclusive 126 127 9 1",
                             "program 9 8",
@@ -99,7 +87,7 @@ TEST_F(SequencerTest, SendsEveryKindOfEventAtTheFrameOfItsTime) {
                             "at 44145",
                             "off 15 60"};
     for (const FrameCount piece : {1, 64, 1000, 1'000'000}) {
-        open(tracks);
+        open({track});
         sink.log.clear();
         play_to_end(piece);
         EXPECT_EQ(sink.log, expected) << piece;
@@ -108,24 +96,14 @@ TEST_F(SequencerTest, SendsEveryKindOfEventAtTheFrameOfItsTime) {
 }
 
 TEST_F(SequencerTest, SeekingReplaysEverythingButNotesAndOnlyWhatIsBeforeThePlace) {
-    open({Track()
-              .program(0, 1)
-              .at(10)
-              .note_on(0, 60, 1)
-              .controller(0, 7, 50)
-              .at(20)
-              .note_off(0, 60)
-              .exclusive({0x7D})
-              .at(30)
-              .controller(0, 7, 60)
-              .note_on(0, 62, 1)
-              .end_at(100),
-          Track().tempo(250'000).end_at(0)});  // all of it twice as fast
+    Track track;
+    track.program(0, 1).at(10).note_on(0, 60, 1).controller(0, 7, 50);
+    track.at(20).note_off(0, 60).exclusive({0x7D});
+    track.at(30).controller(0, 7, 60).note_on(0, 62, 1).end_at(100);
+    open({track, Track().tempo(250'000).end_at(0)});  // all of it twice as fast
     sequencer.seek(frame_at_millisecond(15));
-    const Lines replayed = {"begin seek", "program 0 1", "controller 0 7 50", "exclusive 125",
-                            "end seek"};
-    EXPECT_EQ(sink.log, replayed);
-
+    EXPECT_EQ(sink.log, (Lines{"begin seek", "program 0 1", "controller 0 7 50", "exclusive 125",
+                               "end seek"}));
     sink.log.clear();
     sequencer.send_due_events();
     EXPECT_EQ(sink.log, (Lines{"controller 0 7 60", "on 0 62 1"}));
@@ -171,4 +149,4 @@ TEST(SampleTime, EveryMillisecondLeadsToAFrameAndBack) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

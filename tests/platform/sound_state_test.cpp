@@ -3,46 +3,21 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdint>
-#include <memory>
-#include <string>
-#include <vector>
-
-namespace zephyne {
+namespace zephyne::test {
 namespace {
 
-using namespace test;
-
 Track eventful_song() {
-    return Track()
-        .exclusive(kGsReset)
-        .exclusive({0x41, 0x10, 0x42, 0x12, 0x40, 0x12, 0x15, 0x01, 0x18})  // channel 2 has drums
-        .program(0, kOcarina)
-        .controller(1, 0, 8)
-        .program(1, 4)
-        .controller(0, 7, 90)
-        .controller(0, 101, 0)
-        .controller(0, 100, 0)
-        .controller(0, 6, 12)  // bends go twelve semitones
-        .at(100)
-        .note_on(0, 60, 100)
-        .pitch_bend(0, 9000)
-        .at(400)
-        .note_off(0, 60)
-        .at(700)
-        .controller(0, 64, 127)
-        .channel_pressure(0, 30)
-        .controller(0, 10, 20)
-        .note_on(0, 62, 100)
-        .at(900)
-        .note_off(0, 62)
-        .controller(0, 64, 0)
-        .at(4800)
-        .note_on(0, 65, 110)
-        .note_on(1, 69, 90)
-        .note_on(2, 38, 90)
-        .end_at(7000);
+    Track track;
+    track.exclusive(kGsReset);
+    track.exclusive({0x41, 0x10, 0x42, 0x12, 0x40, 0x12, 0x15, 0x01, 0x18});  // channel 2: drums
+    track.program(0, kOcarina).controller(1, 0, 8).program(1, 4).controller(0, 7, 90);
+    track.controller(0, 101, 0).controller(0, 100, 0).controller(0, 6,
+                                                                 12);  // bends by 12 semitones
+    track.at(100).note_on(0, 60, 100).pitch_bend(0, 9000).at(400).note_off(0, 60);
+    track.at(700).controller(0, 64, 127).channel_pressure(0, 30).controller(0, 10, 20);
+    track.note_on(0, 62, 100).at(900).note_off(0, 62).controller(0, 64, 0);
+    track.at(4800).note_on(0, 65, 110).note_on(1, 69, 90).note_on(2, 38, 90);
+    return track.end_at(7000);
 }
 
 TEST_F(RenderingTest, ASeekLeavesTheSynthesizerAsIfItHadPlayedThere) {
@@ -155,4 +130,4 @@ TEST_F(RenderingTest, AModeMessageEndsTheNotesOfItsChannelAndLeavesAllChannelsAl
     }
 }
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

@@ -1,32 +1,21 @@
 #include "platform/sound/synthesizer_volume.h"
 
+#include "pumped_output.h"
 #include "tests/support/memory_file_system.h"
 #include "tests/support/virtual_time.h"
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <optional>
-#include <string>
-
-namespace zephyne {
+namespace zephyne::test {
 namespace {
-
-class SilentOutput final : public AudioOutput {
-  public:
-    void connect(AudioSource&) override {}
-    void wake() override {}
-    bool settled() const override { return true; }
-    std::optional<std::string> take_problem() override { return {}; }
-};
 
 class SynthesizerVolumeTest : public testing::Test {
   protected:
-    test::VirtualClock clock;
+    VirtualClock clock;
     Scheduler scheduler{clock};
-    test::VirtualPump events{clock, scheduler};
+    VirtualPump events{clock, scheduler};
     MemoryFileSystem files{PathStyle::posix, "/zephyne"};
-    SynthesizerEngine engine{scheduler, {.usual_places = {}}, std::make_unique<SilentOutput>()};
+    SynthesizerEngine engine{scheduler, {.usual_places = {}}, std::make_unique<PumpedOutput>()};
 };
 
 TEST_F(SynthesizerVolumeTest, IsKeptAcrossRuns) {
@@ -58,4 +47,4 @@ TEST_F(SynthesizerVolumeTest, DamagedFileIsFullVolume) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

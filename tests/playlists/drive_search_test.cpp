@@ -1,20 +1,20 @@
 #include "playlists/drive_search.h"
 
+#include "tests/support/fakes.h"
 #include "tests/support/memory_file_system.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
-namespace zephyne {
+namespace zephyne::test {
 namespace {
-
-using Log = std::vector<std::string>;
 
 struct SearchDesk {
     explicit SearchDesk(PathStyle style = PathStyle::posix)
         : files(style, style == PathStyle::posix ? "/" : "C:\\") {}
+
+    void add(std::initializer_list<const char*> songs) {
+        for (const char* song : songs) files.add_file(song);
+    }
 
     // The songs in the order in which they were found.
     Log search(const std::string& root) {
@@ -39,10 +39,8 @@ struct SearchDesk {
 
 TEST(DriveSearch, GoesFromLevelToLevelAndByTheAlphabetWithinAFolder) {
     SearchDesk desk;
-    for (const char* song : {"/b/x/deep/4.mid", "/b/x/3.mid", "/b/1.mid", "/A/z/2.rmi", "/root.MID",
-                             "/A/y/2.Mid", "/c/none.txt", "/folder.mid/4.mid", "/A/mid"}) {
-        desk.files.add_file(song);
-    }
+    desk.add({"/b/x/deep/4.mid", "/b/x/3.mid", "/b/1.mid", "/A/z/2.rmi", "/root.MID", "/A/y/2.Mid",
+              "/c/none.txt", "/folder.mid/4.mid", "/A/mid"});
     desk.files.add_file("/d/6.mid", "", FileKind::ordinary, Visibility::hidden);
     desk.files.add_file("/d/7.mid", "", FileKind::pipe);
     EXPECT_EQ(desk.search("/"), (Log{"/root.MID", "/b/1.mid", "/folder.mid/4.mid", "/A/y/2.Mid",
@@ -53,10 +51,7 @@ TEST(DriveSearch, GoesFromLevelToLevelAndByTheAlphabetWithinAFolder) {
 
 TEST(DriveSearch, ListsOtherKindsOfSongsOnlyWhereTheyAreAllowed) {
     SearchDesk desk(PathStyle::windows);
-    for (const char* name : {"a.wav", "b.AVI", "c.mid", "d.mp3"}) {
-        desk.files.add_file("D:\\" + std::string(name));
-    }
-    desk.files.add_file("C:\\other.mid");
+    desk.add({"D:\\a.wav", "D:\\b.AVI", "D:\\c.mid", "D:\\d.mp3", "C:\\other.mid"});
     EXPECT_EQ(desk.search("D:\\"), Log{"D:\\c.mid"});
     desk.settings.AllowWav = 1;
     EXPECT_EQ(desk.search("D:\\"), (Log{"D:\\a.wav", "D:\\b.AVI", "D:\\c.mid"}));
@@ -64,9 +59,7 @@ TEST(DriveSearch, ListsOtherKindsOfSongsOnlyWhereTheyAreAllowed) {
 
 TEST(DriveSearch, StaysOnItsVolumeAndVisitsNothingTwice) {
     SearchDesk desk;
-    desk.files.add_file("/a/song.mid");
-    desk.files.add_file("/proc/self/process.mid");
-    desk.files.add_file("/z/stick/far.mid");
+    desk.add({"/a/song.mid", "/proc/self/process.mid", "/z/stick/far.mid"});
     desk.files.mount("/proc");
     desk.files.mount("/z/stick");
     desk.files.add_second_view("/a/again", "/a");
@@ -79,9 +72,7 @@ TEST(DriveSearch, StaysOnItsVolumeAndVisitsNothingTwice) {
 
 TEST(DriveSearch, SkipsWhatCannotBeRead) {
     SearchDesk desk;
-    for (const char* song : {"/a/1.mid", "/denied/2.mid", "/gone/3.mid", "/secret/inner/4.mid"}) {
-        desk.files.add_file(song);
-    }
+    desk.add({"/a/1.mid", "/denied/2.mid", "/gone/3.mid", "/secret/inner/4.mid"});
     desk.files.deny("/denied");
     desk.files.vanish("/gone");
     desk.files.deny_listing("/secret");
@@ -93,7 +84,7 @@ TEST(DriveSearch, SkipsWhatCannotBeRead) {
 
 TEST(DriveSearch, CanBeStoppedBeforeEveryStep) {
     SearchDesk desk;
-    for (const char* song : {"/1.mid", "/a/2.mid", "/a/b/3.mid"}) desk.files.add_file(song);
+    desk.add({"/1.mid", "/a/2.mid", "/a/b/3.mid"});
     int steps = 0;
     desk.before_step = [&] { return ++steps > 0; };
     const Log all = desk.search("/");
@@ -109,9 +100,7 @@ TEST(DriveSearch, CanBeStoppedBeforeEveryStep) {
 
 TEST(DriveSearch, CopesWithADriveThatChangesUnderItsHands) {
     SearchDesk desk;
-    for (const char* song : {"/a/1.mid", "/a/2.mid", "/a/b/3.mid", "/c/4.mid"}) {
-        desk.files.add_file(song);
-    }
+    desk.add({"/a/1.mid", "/a/2.mid", "/a/b/3.mid", "/c/4.mid"});
     int steps = 0;
     desk.before_step = [&] {
         if (++steps == 7) {  // before the first song of /a
@@ -126,4 +115,4 @@ TEST(DriveSearch, CopesWithADriveThatChangesUnderItsHands) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

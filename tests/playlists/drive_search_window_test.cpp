@@ -5,13 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <string>
-
-namespace zephyne {
+namespace zephyne::test {
 namespace {
-
-using test::Log;
 
 class DriveSearchWindowTest : public testing::Test {
   protected:
@@ -55,7 +50,6 @@ class DriveSearchWindowTest : public testing::Test {
         }
         return keys;
     }
-    static Log lines(const ListBox& list) { return test::World::names(list); }
 
     const Log at_rest{"Find Files...", "Select All", "Clear All", "Done"};
     const Log at_work{"Cancel Search", "Select All (off)", "Clear All (off)", "Done (off)"};
@@ -63,8 +57,8 @@ class DriveSearchWindowTest : public testing::Test {
         "Select a drive to catalog and hit the Find button.  Once cataloging is complete, select "
         "the files you want to add to the playlist and click Done.";
 
-    test::World world{};
-    test::FakeWindows windows;
+    World world{};
+    FakeWindows windows;
     Form9 editor{world.files};
     DriveSearchWindow window{world.stage, world.scheduler, windows};
     Form10* opened = nullptr;
@@ -88,9 +82,9 @@ TEST_F(DriveSearchWindowTest, ListsTheSongsOfTheDriveAndOfEachNameTheFirstFolder
         });
         f.Command2.click();
         EXPECT_EQ(pumps, 1) << "at the start";
-        EXPECT_EQ(lines(f.List2), (Log{"b.mid", "rag.RMI", "Waltz.mid", "waltz.mid"}));
-        EXPECT_EQ(lines(f.List3), (Log{"b.mid|/stick/b/a|/", "rag.RMI|/stick/b/deep/",
-                                       "Waltz.mid|/stick/a/", "waltz.mid|/stick/b/"}));
+        EXPECT_EQ(World::names(f.List2), (Log{"b.mid", "rag.RMI", "Waltz.mid", "waltz.mid"}));
+        EXPECT_EQ(World::names(f.List3), (Log{"b.mid|/stick/b/a|/", "rag.RMI|/stick/b/deep/",
+                                              "Waltz.mid|/stick/a/", "waltz.mid|/stick/b/"}));
         EXPECT_EQ(f.Label2.caption(), " 4 Files Found.");
         EXPECT_EQ(f.Label1.caption(), instructions);
         EXPECT_EQ(keys(f), at_rest);
@@ -102,8 +96,9 @@ TEST_F(DriveSearchWindowTest, ListsTheSongsOfTheDriveAndOfEachNameTheFirstFolder
     world.files.add_file("/stick/A.WAV");
     open([&](Form10& f) {
         f.Command2.click();
-        EXPECT_EQ(lines(f.List3), (Log{"A.WAV|/stick/", "a.wav|/stick/", "B.mid|/stick/b/a|/",
-                                       "Rag.rmi|/stick/b/deep/", "Waltz.mid|/stick/a/"}));
+        EXPECT_EQ(World::names(f.List3),
+                  (Log{"A.WAV|/stick/", "a.wav|/stick/", "B.mid|/stick/b/a|/",
+                       "Rag.rmi|/stick/b/deep/", "Waltz.mid|/stick/a/"}));
         f.Drive1.choose(1);
         f.Command2.click();
         EXPECT_TRUE(f.List2.empty() && f.List3.empty()) << "a new search begins with nothing";
@@ -126,12 +121,9 @@ TEST_F(DriveSearchWindowTest, LetsEventsRunAndCountsEveryHundredItems) {
 
 TEST_F(DriveSearchWindowTest, LetsEventsRunWhenASlowDiskHasFewItems) {
     for (int i = 0; i < 6; ++i) world.files.add_folder("/stick/a/" + std::to_string(i));
-    class SlowClock final : public Clock {
-      public:
-        Milliseconds now() const override { return ++ticks_ * 10; }
-
-      private:
-        mutable Milliseconds ticks_ = 0;
+    struct SlowClock final : Clock {
+        Milliseconds now() const override { return ++ticks * 10; }
+        mutable Milliseconds ticks = 0;
     };
     const SlowClock clock;
     const Scheduler scheduler(clock);
@@ -191,18 +183,14 @@ TEST_F(DriveSearchWindowTest, DoneAddsWhatIsSelectedAndOfEachNameOnce) {
     add_songs(5);
     open([&](Form10& f) {
         f.Command2.click();
-        f.List2.click(0);
-        f.List2.click(1);
-        f.List2.click(2);
-        f.List2.click(4);
-        f.List2.click(4);
+        for (const std::size_t row : {0, 1, 2, 4, 4}) f.List2.click(row);
         f.Command1.click();
         EXPECT_FALSE(f.loaded());
         EXPECT_EQ(keys(f), (Log{"Find Files... (off)", "Select All (off)", "Clear All (off)",
                                 "Done (off)"}));
     });
-    EXPECT_EQ(lines(editor.List2), (Log{"1000.mid", "1001.mid", "1002.mid", "polka.mid"}));
-    EXPECT_EQ(lines(world.form.List3),
+    EXPECT_EQ(World::names(editor.List2), (Log{"1000.mid", "1001.mid", "1002.mid", "polka.mid"}));
+    EXPECT_EQ(World::names(world.form.List3),
               (Log{"1000.mid|/stick/", "1001.mid|/a/", "1002.mid|/stick/", "polka.mid|/a/"}));
     EXPECT_EQ(editor.Label11.caption(), "4 items in playlist.");
 }
@@ -228,4 +216,4 @@ TEST_F(DriveSearchWindowTest, SelectsAllOrNone) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

@@ -88,25 +88,32 @@ TEST_F(PlaylistEditorTest, StopsTheMainPlayerAndPlaysTheListWhenItCloses) {
     EXPECT_EQ(world.played(), Log{"a.mid"});
     EXPECT_EQ(world.form.Label2.caption(), "4");
     EXPECT_EQ(world.form.Label4.caption(), "3");
-    world.expect_title_tells_the_truth();
-    world.expect_flags_at_rest();
+    world.expect_in_one_piece();
 }
 
-TEST_F(PlaylistEditorTest, AsksBeforeThePlaylistIsCleared) {
+TEST_F(PlaylistEditorTest, TakesSongsFromTheSearchAndAsksBeforeThePlaylistIsCleared) {
     const std::string question =
         "message: \r\nAre you sure you want to clear the playlist?  You won't be able to recover "
         "from this operation. [Important...]";
+    world.playlist_editor.show_drive_search = [](EditedPlaylist& playlist) {
+        playlist.playlistdisable();
+        playlist.add({"x.mid|/other/", "a.mid|/a/"});
+        playlist.Killdupes();
+        playlist.playlistenable();
+    };
     edit([&](Form9& form) {
         form.Command6.click();
         EXPECT_EQ(world.happened(), Log{}) << "there is nothing to clear";
         form.Command7.click();
-        world.messages.answer = Answer::no;
-        form.Command6.click();
-        EXPECT_EQ(form.List2.count(), 4U);
-        world.messages.answer = Answer::yes;
-        form.Command6.click();
-        EXPECT_EQ(world.happened(), (Log{question, question}));
-        EXPECT_EQ(form.Label11.caption(), "0 items in playlist.");
+        form.Command8.click();
+        EXPECT_EQ(world.lines().front(), "a.mid|/a/");
+        EXPECT_EQ(form.Label11.caption(), "5 items in playlist.");
+        for (const auto& [answer, left] : {std::pair(Answer::no, 5), std::pair(Answer::yes, 0)}) {
+            world.messages.answer = answer;
+            form.Command6.click();
+            EXPECT_EQ(world.happened(), Log{question});
+            EXPECT_EQ(form.Label11.caption(), std::to_string(left) + " items in playlist.");
+        }
     });
     EXPECT_TRUE(world.form.File1.empty());
 }
@@ -182,13 +189,16 @@ TEST_F(PlaylistEditorTest, NextBehindTheEditorPlaysNothingButWhatItsRowSays) {
     });
 }
 
-TEST_F(PlaylistEditorTest, BeginsWhereItWasLeftInTheSameRun) {
+TEST_F(PlaylistEditorTest, BeginsWhereItWasLeftInTheSameRunWithTooltipsWhereTheyAreWanted) {
     edit([&](Form9& form) {
+        EXPECT_EQ(form.List2.tooltip(), "Contents of Playlist");
         EXPECT_EQ(form.Dir1.path(), "/music");
         go_to(form, "/other");
         form.user_moved(300, 450);
     });
+    world.settings().ShowTips = 0;
     edit([&](Form9& form) {
+        EXPECT_EQ(form.List2.tooltip(), "");
         EXPECT_EQ(form.Dir1.path(), "/other");
         EXPECT_EQ(form.place().left, 300);
         EXPECT_EQ(form.place().top, 450);
@@ -208,31 +218,6 @@ TEST_F(PlaylistEditorTest, AnUnreadableDriveIsReportedAndTheFolderStays) {
                   Log{"message: Error - Drive May Be Unavailable. [Drive Error]"});
         EXPECT_EQ(form.Dir1.path(), "/music");
         EXPECT_EQ(form.Drive1.drive().name, "System");
-    });
-}
-
-TEST_F(PlaylistEditorTest, ShowsTooltipsWhereTheyAreWanted) {
-    for (const std::int16_t shown : {1, 0}) {
-        world.settings().ShowTips = shown;
-        edit([&](Form9& form) {
-            EXPECT_EQ(form.Command8.tooltip(), shown ? "Find all .mid on drive" : "");
-            EXPECT_EQ(form.List2.tooltip(), shown ? "Contents of Playlist" : "");
-        });
-    }
-}
-
-TEST_F(PlaylistEditorTest, TheSearchAddsToThePlaylist) {
-    world.playlist_editor.show_drive_search = [](EditedPlaylist& playlist) {
-        playlist.playlistdisable();
-        playlist.add({"x.mid|/other/", "a.mid|/a/"});
-        playlist.Killdupes();
-        playlist.playlistenable();
-    };
-    edit([&](Form9& form) {
-        form.Command7.click();
-        form.Command8.click();
-        EXPECT_EQ(world.lines().front(), "a.mid|/a/");
-        EXPECT_EQ(form.Label11.caption(), "5 items in playlist.");
     });
 }
 
@@ -306,32 +291,24 @@ TEST_F(PlaylistEditorTest, AnAuditionIsGivenUpWhenTheUserActsWhileTheSynthesizer
             });
             EXPECT_EQ(fresh.audition.open_song(), "");
             EXPECT_EQ(fresh.played(), Log{"a.mid"}) << "the playlist, after the editor";
-            fresh.expect_title_tells_the_truth();
-            fresh.expect_flags_at_rest();
+            fresh.expect_in_one_piece();
         }
     }
 }
 
-TEST_F(PlaylistEditorTest, EndingTheProgramWhileTheSynthesizerIsResetAuditionsNothing) {
+TEST_F(PlaylistEditorTest, EndingTheProgramWhileItIsOpenStartsNothing) {
     world.settings().AutoReset = 1;
+    world.settings().Mode = PlayMode::Alpha;
     world.windows.on_modal = [&](Form& form) {
         auto& editor = dynamic_cast<Form9&>(form);
+        editor.Command7.click();
         editor.List1.click(0);
         world.pump.on_pump = [&] { world.program.Ending = true; };
         editor.MMControl1.press(TransportKey::play);
-        EXPECT_EQ(world.audition.open_song(), "");
+        EXPECT_EQ(world.audition.open_song(), "") << "the synthesizer was being reset";
     };
     world.form.Command13.click();
-}
-
-TEST_F(PlaylistEditorTest, EndingTheProgramWhileItIsOpenStartsNothing) {
-    world.settings().Mode = PlayMode::Alpha;
-    world.windows.on_modal = [&](Form& form) {
-        dynamic_cast<Form9&>(form).Command7.click();
-        world.program.Ending = true;
-    };
-    world.form.Command13.click();
-    EXPECT_EQ(world.happened(), Log{});
+    EXPECT_EQ(world.played(), Log{});
     EXPECT_TRUE(world.form.File1.empty());
 }
 

@@ -2,8 +2,7 @@
 
 #include "core/playlist_entry.h"
 #include "playlists/playlist_lists.h"
-#include "tests/support/fakes.h"
-#include "tests/support/virtual_time.h"
+#include "tests/support/world.h"
 
 #include <gtest/gtest.h>
 
@@ -72,12 +71,6 @@ TEST(EntryLine, IsRefusedWhereItWouldNotReadBack) {
     }
 }
 
-Log texts(const ListBox& list) {
-    Log all;
-    for (const ListRow& row : list.items()) all.emplace_back(row.text);
-    return all;
-}
-
 // Entries of names and folders that are hard on separators, order and encoding.
 TEST(PlaylistText, EveryEntryThatCanBeAddedComesBackAndStaysInStep) {
     std::mt19937 random(1998);
@@ -100,19 +93,15 @@ TEST(PlaylistText, EveryEntryThatCanBeAddedComesBackAndStaysInStep) {
         PlaylistLists lists(names, lines, pump);
         std::vector<std::string> added;
         for (auto count = random() % 30; count > 0; --count) {
-            const std::string line =
-                entry_line(text(parts.size() - 1), "/" + text(parts.size()) + "/");
-            if (line.empty()) {
-                ++refused;
-            } else {
-                added.push_back(line);
-            }
+            const auto line = entry_line(text(parts.size() - 1), "/" + text(parts.size()) + "/");
+            if (line.empty()) ++refused;
+            if (!line.empty()) added.push_back(line);
         }
         lists.add(added);
         ASSERT_TRUE(lists.in_step());
         const auto again = read_playlist_text(playlist_text_of(lines.items()), PathStyle::posix);
         ASSERT_EQ(again.state, PlaylistState::complete);
-        ASSERT_EQ(again.entry_lines, texts(lines));
+        ASSERT_EQ(again.entry_lines, World::names(lines));
 
         lists.Killdupes();
         ASSERT_TRUE(lists.in_step());
@@ -129,7 +118,7 @@ TEST(PlaylistText, EveryEntryThatCanBeAddedComesBackAndStaysInStep) {
         }
         lists.remove_selected();
         ASSERT_TRUE(lists.in_step());
-        ASSERT_EQ(texts(lines), kept);
+        ASSERT_EQ(World::names(lines), kept);
     }
     EXPECT_GT(refused, 100U) << "the names are too easy";
 }

@@ -8,9 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <string>
-
 namespace zephyne::test {
 
 class PlaylistWorld : public World {

@@ -6,16 +6,12 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <string>
-#include <utility>
-#include <vector>
-
 namespace zephyne::test {
 namespace {
 
-struct Desk {
-    Desk() {
+class MessageBoxTest : public testing::Test {
+  protected:
+    MessageBoxTest() {
         windows.on_modal = [this](Form& form) {
             if (const auto act = std::exchange(next_act, {})) act(static_cast<dlgbox&>(form));
         };
@@ -24,7 +20,7 @@ struct Desk {
     // Shows a message; `act` is what the user does with the box.
     Answer show(std::string text, std::int16_t flags, std::function<void(dlgbox&)> act = {}) {
         next_act = std::move(act);
-        return box.ShowDlgMessage(std::move(text), flags, "Title");
+        return message_box.ShowDlgMessage(std::move(text), flags, "Title");
     }
 
     std::function<void(dlgbox&)> next_act;
@@ -35,22 +31,21 @@ struct Desk {
     Program program;
     FakeWindows windows;
     LoggedBeeper beeper{log};
-    MessageBox box{program, scheduler, windows, beeper};
+    MessageBox message_box{program, scheduler, windows, beeper};
 };
 
-std::vector<std::string> visible_keys(const dlgbox& box) {
-    std::vector<std::string> keys;
+Log visible_keys(const dlgbox& box) {
+    Log keys;
     for (const Button* key : {&box.Command2, &box.Command1, &box.Command3}) {
         if (key->visible()) keys.push_back(key->caption());
     }
     return keys;
 }
 
-TEST(MessageBox, ANoticeHasOnlyOk) {
-    Desk desk;
-    const Answer answer = desk.show("Done.", 0, [&](dlgbox& box) {
+TEST_F(MessageBoxTest, ANoticeHasOnlyOk) {
+    const Answer answer = show("Done.", 0, [&](dlgbox& box) {
         EXPECT_EQ(box.title(), "Title");
-        EXPECT_EQ(visible_keys(box), std::vector<std::string>{"OK"});
+        EXPECT_EQ(visible_keys(box), Log{"OK"});
         EXPECT_EQ(box.default_button(), &box.Command1);
         EXPECT_EQ(box.cancel_button(), &box.Command1);
         EXPECT_TRUE(box.Command1.focused());
@@ -61,54 +56,56 @@ TEST(MessageBox, ANoticeHasOnlyOk) {
     EXPECT_EQ(static_cast<int>(answer), -1);
 }
 
-TEST(MessageBox, AQuestionHasYesAndNoAndEnterMeansNo) {
-    Desk desk;
+TEST_F(MessageBoxTest, AQuestionHasYesAndNoAndEnterMeansNo) {
     for (const std::int16_t flags : {1, 2, -1}) {
-        EXPECT_EQ(
-            desk.show("Really?", flags,
-                      [&](dlgbox& box) {
-                          EXPECT_EQ(visible_keys(box), (std::vector<std::string>{"Yes", "No"}));
-                          EXPECT_EQ(box.default_button(), &box.Command3);
-                          EXPECT_TRUE(box.Command3.focused());
-                          box.Command1.click();  // hidden: no answer
-                          EXPECT_TRUE(box.visible());
-                          box.Command2.click();
-                      }),
-            Answer::yes);
-        EXPECT_EQ(desk.show("Really?", flags, [](dlgbox& box) { box.Command3.click(); }),
-                  Answer::no);
+        const auto agree = [](dlgbox& box) {
+            EXPECT_EQ(visible_keys(box), (Log{"Yes", "No"}));
+            EXPECT_EQ(box.default_button(), &box.Command3);
+            EXPECT_TRUE(box.Command3.focused());
+            box.Command1.click();  // hidden: no answer
+            EXPECT_TRUE(box.visible());
+            box.Command2.click();
+        };
+        EXPECT_EQ(show("Really?", flags, agree), Answer::yes);
+        EXPECT_EQ(show("Really?", flags, [](dlgbox& box) { box.Command3.click(); }), Answer::no);
     }
 }
 
-TEST(MessageBox, TheCloseBoxNeverAgrees) {
-    Desk desk;
+TEST_F(MessageBoxTest, TheCloseBoxNeverAgreesAndNobodyIsAskedWhileTheProgramEndsOrAfterTheSession) {
     const auto close = [](dlgbox& box) { EXPECT_TRUE(box.request_unload(CloseReason::user)); };
-    EXPECT_EQ(desk.show("Really?", 1, close), Answer::no);
-    EXPECT_EQ(desk.show("Done.", 0, close), Answer::ok);
-    EXPECT_EQ(desk.program.CurrentForm, FormNumber::Main);
+    EXPECT_EQ(show("Really?", 1, close), Answer::no);
+    EXPECT_EQ(show("Done.", 0, close), Answer::ok);
+    EXPECT_EQ(program.CurrentForm, FormNumber::Main);
+
+    log.clear();
+    for (bool Program::*const over : {&Program::Ending, &Program::SessionEnded}) {
+        program.*over = true;
+        const auto never = [](dlgbox&) { FAIL(); };
+        EXPECT_EQ(show("Really?", 1, never), Answer::no);
+        EXPECT_EQ(show("Done.", 0, never), Answer::ok);
+        EXPECT_EQ(log, Log());
+        program.*over = false;
+    }
 }
 
-TEST(MessageBox, ShortTextsAreLargeAndStartOneLineDown) {
-    const std::string umlauts = "ä";
+TEST_F(MessageBoxTest, ShortTextsAreLargeAndStartOneLineDown) {
     std::string text_79;
-    for (int i = 0; i < 79; ++i) text_79 += umlauts;
+    for (int i = 0; i < 79; ++i) text_79 += "ä";
     const auto expect_text = [](const std::string& text, int points) {
         return [=](dlgbox& box) {
             EXPECT_EQ(box.Label1.caption(), text);
             EXPECT_EQ(box.Label1.font_points(), points);
         };
     };
-    Desk desk;
-    desk.show("", 0, expect_text("\r\n", 12));
-    desk.show(text_79, 0, expect_text("\r\n" + text_79, 12));
-    desk.show(text_79 + "ä", 0, expect_text(text_79 + "ä", 10));
-    desk.show(std::string(79, '\xE9'), 0, expect_text("\r\n" + std::string(79, '\xE9'), 12));
-    desk.show(std::string(80, '\xE9'), 0, expect_text(std::string(80, '\xE9'), 10));
+    show("", 0, expect_text("\r\n", 12));
+    show(text_79, 0, expect_text("\r\n" + text_79, 12));
+    show(text_79 + "ä", 0, expect_text(text_79 + "ä", 10));
+    show(std::string(79, '\xE9'), 0, expect_text("\r\n" + std::string(79, '\xE9'), 12));
+    show(std::string(80, '\xE9'), 0, expect_text(std::string(80, '\xE9'), 10));
 }
 
-TEST(MessageBox, StandsInTheMiddleAndGrowsWithItsText) {
-    Desk desk;
-    const TwipsSize screen = desk.windows.screen();
+TEST_F(MessageBoxTest, StandsInTheMiddleAndGrowsWithItsText) {
+    const TwipsSize screen = windows.screen();
     const auto expect_height = [&](int more) {
         return [&, more](dlgbox& box) {
             const Place place = box.place();
@@ -120,65 +117,50 @@ TEST(MessageBox, StandsInTheMiddleAndGrowsWithItsText) {
             }
         };
     };
-    desk.windows.height_of_text = 300;
-    desk.show("Short.", 0, expect_height(0));
-    desk.windows.height_of_text = 3000;
-    desk.show("Long.", 1, expect_height(1560));
+    windows.height_of_text = 300;
+    show("Short.", 0, expect_height(0));
+    windows.height_of_text = 3000;
+    show("Long.", 1, expect_height(1560));
 }
 
-TEST(MessageBox, BeepsOnlyWhenBeepsAreOn) {
-    Desk desk;
-    desk.show("Done.", 0, [&](dlgbox&) { EXPECT_EQ(desk.log, Log{"beep"}); });
+TEST_F(MessageBoxTest, BeepsOnlyWhenBeepsAreOn) {
+    show("Done.", 0, [&](dlgbox&) { EXPECT_EQ(log, Log{"beep"}); });
     for (const std::int16_t silent : {0, 2}) {
-        desk.log.clear();
-        desk.program.settings.Beeps = silent;
-        desk.show("Done.", 1);
-        EXPECT_EQ(desk.log, Log());
+        log.clear();
+        program.settings.Beeps = silent;
+        show("Done.", 1);
+        EXPECT_EQ(log, Log());
     }
 }
 
-TEST(MessageBox, TheWavesMoveThroughSevenFramesAnEighthOfASecondEach) {
-    Desk desk;
+TEST_F(MessageBoxTest, TheWavesMoveThroughSevenFramesAnEighthOfASecondEach) {
     std::string frames;
-    desk.show("Done.", 0, [&](dlgbox& box) {
-        desk.pump.run_for(124);
+    show("Done.", 0, [&](dlgbox& box) {
+        pump.run_for(124);
         EXPECT_EQ(box.Image2.image(), 1);
-        desk.pump.run_for(1);
+        pump.run_for(1);
         for (int i = 0; i < 9; ++i) {
             frames += std::to_string(box.Image2.image());
-            desk.pump.run_for(125);
+            pump.run_for(125);
         }
         box.Command1.click();
         EXPECT_FALSE(box.Timer1.enabled());
     });
     EXPECT_EQ(frames, "123456712");
-    EXPECT_EQ(desk.scheduler.next_due(), std::nullopt) << "no timer is left behind";
+    EXPECT_EQ(scheduler.next_due(), std::nullopt) << "no timer is left behind";
 }
 
-TEST(MessageBox, OneMessageMayLieOverAnother) {
-    Desk desk;
-    const Answer answer = desk.show("Outer?", 1, [&](dlgbox& outer) {
-        EXPECT_EQ(desk.program.CurrentForm, FormNumber::MessageBox);
-        EXPECT_EQ(desk.show("Inner.", 0, [](dlgbox& inner) { inner.Command1.click(); }),
-                  Answer::ok);
-        EXPECT_EQ(desk.program.CurrentForm, FormNumber::Main);
+TEST_F(MessageBoxTest, OneMessageMayLieOverAnother) {
+    const Answer answer = show("Outer?", 1, [&](dlgbox& outer) {
+        EXPECT_EQ(program.CurrentForm, FormNumber::MessageBox);
+        EXPECT_EQ(show("Inner.", 0, [](dlgbox& inner) { inner.Command1.click(); }), Answer::ok);
+        EXPECT_EQ(program.CurrentForm, FormNumber::Main);
         outer.user_activated();  // it is in front again
-        EXPECT_EQ(desk.program.CurrentForm, FormNumber::MessageBox);
+        EXPECT_EQ(program.CurrentForm, FormNumber::MessageBox);
         outer.Command2.click();
     });
     EXPECT_EQ(answer, Answer::yes);
-    EXPECT_EQ(desk.program.CurrentForm, FormNumber::Main);
-}
-
-TEST(MessageBox, NobodyIsAskedWhileTheProgramEndsOrAfterTheSession) {
-    for (bool Program::*const over : {&Program::Ending, &Program::SessionEnded}) {
-        Desk desk;
-        desk.program.*over = true;
-        const auto never = [](dlgbox&) { FAIL(); };
-        EXPECT_EQ(desk.show("Really?", 1, never), Answer::no);
-        EXPECT_EQ(desk.show("Done.", 0, never), Answer::ok);
-        EXPECT_EQ(desk.log, Log());
-    }
+    EXPECT_EQ(program.CurrentForm, FormNumber::Main);
 }
 
 }  // namespace

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 namespace zephyne::test {
 namespace {
 
@@ -50,8 +48,7 @@ TEST_F(RecentSongsInTheTray, ASongOfThisFolderPlaysAndTheRoundGoesOn) {
     world.run_for(180'000);
     EXPECT_EQ(world.open_song(), "C.mid");
     EXPECT_EQ(world.program.RecentCount, 1) << "A is in the menu already";
-    world.expect_flags_at_rest();
-    world.expect_window_unlocked();
+    world.expect_in_one_piece();
 }
 
 TEST_F(RecentSongsInTheTray, ASongOfAnotherFolderBeginsARoundThere) {
@@ -60,7 +57,7 @@ TEST_F(RecentSongsInTheTray, ASongOfAnotherFolderBeginsARoundThere) {
     world.tray.mnuSong(5).click();
     EXPECT_EQ(world.form.Dir1.path(), "/other");
     EXPECT_EQ(world.open_song(), "Y.mid");
-    EXPECT_EQ(World::names(world.form.List1), std::vector<std::string>{"X.mid"});
+    EXPECT_EQ(World::names(world.form.List1), Log{"X.mid"});
     world.run_for(180'000);
     EXPECT_EQ(world.open_song(), "X.mid");
 
@@ -85,8 +82,7 @@ TEST_F(RecentSongsInTheTray, ASongThatIsGoneIsPassedOverWithoutAWord) {
     world.tray.mnuSong(3).click();
     EXPECT_EQ(world.happened(), Log{});
     EXPECT_EQ(world.open_song(), "A.mid");
-    world.expect_flags_at_rest();
-    world.expect_window_unlocked();
+    world.expect_in_one_piece();
 }
 
 TEST_F(RecentSongsInTheTray, ASongThatIsNotListedIsAnUnknownError) {
@@ -96,18 +92,12 @@ TEST_F(RecentSongsInTheTray, ASongThatIsNotListedIsAnUnknownError) {
     world.tray.mnuSong(5).click();
     EXPECT_EQ(world.happened(), Log{"message: Unknown Error [Error]"});
     EXPECT_EQ(world.open_song(), "A.mid");
-    world.expect_flags_at_rest();
-    world.expect_window_unlocked();
-}
+    world.expect_in_one_piece();
 
-TEST_F(RecentSongsInTheTray, APauseThatBeginsBehindTheMessageUnlocksTheWholeWindow) {
-    world.files.add_file("/other/noise.wav");
-    remember("/other/", "noise.wav");
-    start(PlayMode::Alpha);
     world.settings().AutoDelay = 1;
     world.messages.while_open = [&] { world.run_for(190'000); };
     world.tray.mnuSong(5).click();
-    world.expect_window_unlocked();
+    world.expect_window_unlocked();  // after a pause that began behind the message
 }
 
 TEST_F(RecentSongsInTheTray, NothingHappensWhileAnotherSongIsOnItsWay) {
@@ -137,6 +127,11 @@ TEST_F(RecentSongsInTheTray, FilesThatDifferOnlyInCaseAreTwoSongs) {
     world.tray.mnuSong(4).click();
     EXPECT_EQ(world.open_song(), "B.mid");
     EXPECT_EQ(world.program.CurrentSongName, "B.mid");
+
+    world.open_playlist({"B.mid|/music/", "b.MID|/music/"});
+    world.tray.mnuSong(5).click();
+    EXPECT_EQ(world.form.File1.selected(), 1U);
+    EXPECT_EQ(world.open_song(), "b.MID");
 }
 
 TEST_F(RecentSongsInTheTray, OfEqualNamesInAPlaylistTheOneOfTheFolderIsSelected) {
@@ -147,17 +142,7 @@ TEST_F(RecentSongsInTheTray, OfEqualNamesInAPlaylistTheOneOfTheFolderIsSelected)
     world.tray.mnuSong(5).click();
     EXPECT_EQ(world.form.File1.selected(), 2U);
     EXPECT_EQ(world.program.CurrentSongPath, "/other/B.mid");
-    EXPECT_EQ(World::names(world.form.List1),
-              (std::vector<std::string>{"A.mid|/music/", "B.mid|/music/"}));
-}
-
-TEST_F(RecentSongsInTheTray, InAPlaylistNamesThatDifferOnlyInCaseAreTwoSongs) {
-    world.files.add_file("/other/x.MID");
-    world.open_playlist({"X.mid|/other/", "x.MID|/other/"});
-    remember("/other/", "x.MID");
-    world.tray.mnuSong(5).click();
-    EXPECT_EQ(world.form.File1.selected(), 1U);
-    EXPECT_EQ(world.open_song(), "x.MID");
+    EXPECT_EQ(World::names(world.form.List1), (Log{"A.mid|/music/", "B.mid|/music/"}));
 }
 
 // In the editor the entry lines change while the window behind it still shows the old list.
@@ -179,8 +164,7 @@ TEST_F(RecentSongsInTheTray, ASongHandedOverMeanwhileWaitsItsTurn) {
     EXPECT_EQ(world.open_song(), "Y.mid");
     world.run_for(2000);
     EXPECT_EQ(world.open_song(), "C.mid");
-    world.expect_flags_at_rest();
-    world.expect_title_tells_the_truth();
+    world.expect_in_one_piece();
 }
 
 }  // namespace

@@ -4,11 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
-
-using test::Log;
-using test::World;
 
 // Renaming, deleting and moving songs, and the file manager.
 class FileCareTest : public testing::TestWithParam<PathStyle> {
@@ -25,22 +22,13 @@ class FileCareTest : public testing::TestWithParam<PathStyle> {
         };
     }
 
-    // What the program said and asked since the last call.
-    Log said() {
-        Log log = world.happened();
-        std::erase_if(log, [](const std::string& line) {
-            return !line.starts_with("message") && !line.starts_with("ask") &&
-                   !line.starts_with("open /") && !line.starts_with("open C:");
-        });
-        return log;
-    }
     // In the mode, with that song chosen by hand.
     void choose(const std::string& song, std::int32_t mode = PlayMode::Manual) {
         world.open_folder();
         world.settings().Mode = mode;
         if (mode != PlayMode::Manual) world.engine->order.refill();
         world.click(song);
-        said();
+        world.said();
         world.played();
     }
     void rename(const std::string& answer) {
@@ -67,9 +55,9 @@ class FileCareTest : public testing::TestWithParam<PathStyle> {
 
     World world{{"a.mid", "b.mid", "SONG.RMI"}, GetParam()};
     std::string elsewhere = GetParam() == PathStyle::posix ? "/attic" : "C:\\attic";
-    test::FakeWindows windows;
-    test::ScriptedQuestions questions{world.log};
-    test::LoggedFileManager manager{world.log};
+    FakeWindows windows;
+    ScriptedQuestions questions{world.log};
+    LoggedFileManager manager{world.log};
     FileCommands commands{world.stage, *world.engine, questions, manager};
     MoveFile move{world.stage, *world.engine, windows};
     std::function<void(Form6&)> while_moving;
@@ -81,14 +69,11 @@ INSTANTIATE_TEST_SUITE_P(BothPathStyles, FileCareTest,
                              return style.param == PathStyle::posix ? "Posix" : "Windows";
                          });
 
-TEST(NameFromText, DropsWhatCannotStandInANameAndKeepsTheRest) {
+TEST(FileCare, NamesOfTextsAndFoldersOfSongs) {
     EXPECT_EQ(name_from_text("My Song: Final?"), "My Song Final");
     EXPECT_EQ(name_from_text("one\r\n\ttwo"), "one two");
     EXPECT_EQ(name_from_text("a <b>|c/\\\"*.mid"), "a bc*.mid");
     EXPECT_EQ(name_from_text("?<>"), "");
-}
-
-TEST(FolderOfSong, IsWhatStandsBeforeTheLastSeparator) {
     EXPECT_EQ(folder_of_song("C:\\MIDI\\SONG.MID", PathStyle::windows), "C:\\MIDI");
     EXPECT_EQ(folder_of_song("C:\\SONG.MID", PathStyle::windows), "C:");
     EXPECT_EQ(folder_of_song("/midi/song.mid", PathStyle::posix), "/midi");
@@ -103,9 +88,9 @@ TEST_P(FileCareTest, ProposalIsMadeOfTheMarkedText) {
     rename("");
     world.form.Text1.user_selected("::\"");
     rename("");
-    EXPECT_EQ(said(), (Log{"ask: Rename File To: [Rename File] SONG.RMI",
-                           "ask: Rename File To: [Rename File] My Song Final.mid",
-                           "ask: Rename File To: [Rename File] SONG.RMI"}));
+    EXPECT_EQ(world.said(), (Log{"ask: Rename File To: [Rename File] SONG.RMI",
+                                 "ask: Rename File To: [Rename File] My Song Final.mid",
+                                 "ask: Rename File To: [Rename File] SONG.RMI"}));
     EXPECT_TRUE(world.files.exists(world.path("SONG.RMI")));
 }
 
@@ -126,7 +111,7 @@ TEST_P(FileCareTest, RenamedSongTakesItsNoteAlongAndGoesOnPlaying) {
     world.expect_flags_at_rest();
 }
 
-TEST_P(FileCareTest, RenamedSongIsPlayedUnderItsNewNameInTheCycle) {
+TEST_P(FileCareTest, RenamedSongHasItsNewPlaceInTheCycleOrNone) {
     world.settings().Continuous = 1;
     choose("a.mid", PlayMode::Alpha);
     rename("c.mid");
@@ -136,13 +121,11 @@ TEST_P(FileCareTest, RenamedSongIsPlayedUnderItsNewNameInTheCycle) {
     world.midi.finish();
     world.run_for(1000);
     EXPECT_EQ(world.played(), Log{"b.mid"}) << "which would have been next";
-}
 
-TEST_P(FileCareTest, SongRenamedOutOfTheListIsPlayedNoMore) {
-    choose("a.mid");
-    rename("a.wav");
+    choose("aa.mid");
+    rename("aa.wav");
     EXPECT_EQ(World::names(world.form.File1), (Log{"b.mid", "SONG.RMI"}));
-    EXPECT_EQ(world.open_song(), "");
+    EXPECT_EQ(world.open_song(), "") << "it is not listed any more";
     world.expect_flags_at_rest();
 }
 
@@ -157,7 +140,7 @@ TEST_P(FileCareTest, FailedRenameSaysWhyAndChangesNothing) {
     world.program.SwitchingSong = false;
     const std::string ask = "ask: Rename File To: [Rename File] a.mid";
     EXPECT_EQ(
-        said(),
+        world.said(),
         (Log{ask, "message: Error Renaming File - File already exists. [Error on Rename]", ask,
              "message: Error Renaming File - File already open.  If Auto-Info is active, "
              "allow it to finish reading the current file, then try again. "
@@ -171,9 +154,18 @@ TEST_P(FileCareTest, DeletedSongIsGoneWithItsNoteAndTheNextOnePlays) {
     world.files.add_file(world.path("a.vol"), "volume");
     world.settings().Continuous = 1;
     choose("a.mid", PlayMode::Alpha);
+    const std::string question =
+        "message: Are you sure you want to delete a.mid? [Please Verify Delete...]";
+    world.files.deny_writing(world.path("a.mid"));
     world.form.Command4.click();
-    EXPECT_EQ(said(), Log{"message: Are you sure you want to delete a.mid? "
-                          "[Please Verify Delete...]"});
+    EXPECT_EQ(world.said(),
+              (Log{question, "message: Error on Delete - Permission denied. [Error on Delete]"}));
+    EXPECT_EQ(world.open_song(), "a.mid");
+    EXPECT_TRUE(world.files.exists(world.path("a.nte")));
+
+    world.files.allow(world.path("a.mid"));
+    world.form.Command4.click();
+    EXPECT_EQ(world.said(), Log{question});
     EXPECT_FALSE(world.files.exists(world.path("a.mid")));
     EXPECT_FALSE(world.files.exists(world.path("a.nte")));
     EXPECT_TRUE(world.files.exists(world.path("a.vol")));
@@ -182,7 +174,7 @@ TEST_P(FileCareTest, DeletedSongIsGoneWithItsNoteAndTheNextOnePlays) {
     world.expect_flags_at_rest();
 }
 
-TEST_P(FileCareTest, DeleteInManualModeLeavesNothingSelected) {
+TEST_P(FileCareTest, DeleteInManualModeLeavesNothingSelectedAndInTheEndNoInformation) {
     choose("a.mid");
     world.messages.answer = Answer::no;
     world.form.Command4.click();
@@ -193,10 +185,7 @@ TEST_P(FileCareTest, DeleteInManualModeLeavesNothingSelected) {
     EXPECT_FALSE(world.form.File1.selected());
     EXPECT_EQ(world.open_song(), "");
     EXPECT_TRUE(world.played().empty());
-}
-
-TEST_P(FileCareTest, LastSongDeletedEmptiesTheInformation) {
-    for (const char* song : {"a.mid", "b.mid", "SONG.RMI"}) {
+    for (const char* song : {"b.mid", "SONG.RMI"}) {
         choose(song, PlayMode::Random);
         world.form.Text1.set_text("facts");
         world.form.Command4.click();
@@ -206,26 +195,16 @@ TEST_P(FileCareTest, LastSongDeletedEmptiesTheInformation) {
     EXPECT_EQ(world.open_song(), "");
 }
 
-TEST_P(FileCareTest, FailedDeleteKeepsTheSongPlaying) {
-    world.files.add_file(world.path("a.nte"), "note");
-    choose("a.mid");
-    world.files.deny_writing(world.path("a.mid"));
-    world.form.Command4.click();
-    EXPECT_EQ(said().back(), "message: Error on Delete - Permission denied. [Error on Delete]");
-    EXPECT_EQ(world.open_song(), "a.mid");
-    EXPECT_TRUE(world.files.exists(world.path("a.nte")));
-}
-
 TEST_P(FileCareTest, QueueModeDeletesAndMovesWhatPlays) {
     play_from_queue("");
     world.form.Command4.click();
     world.form.Command5.click();
-    EXPECT_EQ(said(),
+    EXPECT_EQ(world.said(),
               (Log{"message: No file to delete! [Error]", "message: No file to move! [Error]"}));
 
     play_from_queue(world.path("a.mid"));
     move_to(in(elsewhere, "a.mid"));
-    EXPECT_EQ(said(),
+    EXPECT_EQ(world.said(),
               Log{"message: File was moved to directory " + elsewhere + " [Move Successful.]"});
     EXPECT_EQ(world.program.CurrentSongPath, in(elsewhere, "a.mid"));
 
@@ -288,32 +267,28 @@ TEST_P(FileCareTest, MoveWithNothingLeftToPlayStopsAndClearsTheCounters) {
     EXPECT_TRUE(world.played().empty());
 }
 
-TEST_P(FileCareTest, FailedMoveSaysWhyAndStaysOpen) {
+TEST_P(FileCareTest, FailedMoveSaysWhyAndKeepsTheSong) {
+    const std::string stick = GetParam() == PathStyle::posix ? "/media/stick" : "D:\\";
+    world.files.add_volume(GetParam() == PathStyle::posix ? "/" : "C:\\", "System");
+    world.files.add_volume(stick, "Stick");
     world.files.add_file(in(elsewhere, "taken.mid"), "other");
     choose("a.mid");
     while_moving = [&](Form6& form) {
-        for (const std::string& target : {in(elsewhere, "taken.mid"), world.path("a.mid")}) {
+        world.files.fail_write_number(1);
+        for (const std::string& target :
+             {in(elsewhere, "taken.mid"), world.path("a.mid"), in(stick, "a.mid")}) {
             form.Text1.set_text(target);
             form.Command1.click();
             EXPECT_TRUE(form.loaded());
         }
     };
     world.form.Command5.click();
-    EXPECT_EQ(said(), (Log{"message: Error on Move - File already exists. [Error on Move]",
-                           "message: Error on Move - Permission denied.  You may have tried to "
-                           "move the file to its current directory. [Error on Move]"}));
+    EXPECT_EQ(world.said(), (Log{"message: Error on Move - File already exists. [Error on Move]",
+                                 "message: Error on Move - Permission denied.  You may have tried "
+                                 "to move the file to its current directory. [Error on Move]",
+                                 "message: Error on Move - Disk full. [Error on Move]"}));
     EXPECT_EQ(world.files.contents(in(elsewhere, "taken.mid")), "other");
     EXPECT_EQ(world.open_song(), "a.mid");
-}
-
-TEST_P(FileCareTest, MoveToAFullVolumeKeepsTheSong) {
-    const std::string stick = GetParam() == PathStyle::posix ? "/media/stick" : "D:\\";
-    world.files.add_volume(GetParam() == PathStyle::posix ? "/" : "C:\\", "System");
-    world.files.add_volume(stick, "Stick");
-    choose("a.mid");
-    world.files.fail_write_number(1);
-    move_to(in(stick, "a.mid"));
-    EXPECT_EQ(said(), Log{"message: Error on Move - Disk full. [Error on Move]"});
     EXPECT_TRUE(world.files.exists(world.path("a.mid")));
     move_to(in(stick, "a.mid"));
     EXPECT_TRUE(world.files.exists(in(stick, "a.mid")));
@@ -363,20 +338,22 @@ TEST_P(FileCareTest, FileManagerOpensWhereTheSongIsOrWhereTheProgramStands) {
     world.form.Command23.set_visible(true);
     choose("a.mid");
     world.form.Command22.click();
-    EXPECT_EQ(said(), Log{"open " + world.folder});
+    EXPECT_EQ(world.happened(), Log{"open " + world.folder});
     ASSERT_TRUE(world.form.Dir1.set_path(elsewhere));
+    world.happened();
     world.form.Command24.click();
     EXPECT_EQ(world.files.current_folder(), elsewhere);
-    EXPECT_EQ(said(), Log{"open " + elsewhere});
+    EXPECT_EQ(world.happened(), Log{"open " + elsewhere});
     world.program.CurrentSongPath = world.path("a.mid");
     world.form.Command23.click();
-    EXPECT_EQ(said(), Log{"open " + world.folder});
+    EXPECT_EQ(world.happened(), Log{"open " + world.folder});
     EXPECT_EQ(world.files.current_folder(), world.folder);
     world.program.CurrentSongPath.clear();
     world.form.Command23.click();
-    EXPECT_EQ(said(), (Log{"message: No file playing - using current directory. [No File]",
-                           "open " + world.folder}));
+    EXPECT_EQ(world.happened(),
+              (Log{"message: No file playing - using current directory. [No File]",
+                   "open " + world.folder}));
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

@@ -6,11 +6,8 @@
 
 #include <gtest/gtest.h>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
-
-using test::Log;
-using test::World;
 
 constexpr Colour kWhite = 0xFFFFFF;
 constexpr Colour kRed = 0xFF0000;
@@ -39,12 +36,6 @@ class PresetsTest : public testing::Test {
         const Settings& settings = world.program.settings;
         return settings.PresetPath[number - 1] + "|" + settings.PresetFileName[number - 1];
     }
-    Log said() {
-        Log log = world.happened();
-        std::erase_if(log, [](const std::string& line) { return !line.starts_with("message"); });
-        return log;
-    }
-
     World world{"a.mid", "b.mid", "c.mid"};
     Presets presets{world.stage, *world.engine};
 };
@@ -98,9 +89,9 @@ TEST_F(PresetsTest, ClearEmptiesOnePresetAndClearAllAsksFirst) {
     world.messages.answer = Answer::yes;
     world.form.Command17.click();
     EXPECT_EQ(preset(2), "|");
-    EXPECT_EQ(said(), Log(2,
-                          "message: Are you sure you want to clear all presets? "
-                          "[Verify Clear All Operation]"));
+    EXPECT_EQ(world.said(), Log(2,
+                                "message: Are you sure you want to clear all presets? "
+                                "[Verify Clear All Operation]"));
 }
 
 TEST_F(PresetsTest, EmptyPresetAndWrongMomentsDoNothing) {
@@ -129,16 +120,14 @@ TEST_F(PresetsTest, FolderPresetMovesAndStartsTheCycleThere) {
     key(1).click();
     EXPECT_TRUE(world.played().empty()) << "it is there already";
     EXPECT_EQ(world.form.File1.selected(), 0U);
-    world.expect_flags_at_rest();
-    world.expect_title_tells_the_truth();
+    world.expect_in_one_piece();
 
     world.settings().Mode = PlayMode::Manual;
     set(2, "/music");
     key(2).click();
     EXPECT_EQ(world.open_song(), "");
     EXPECT_FALSE(world.form.File1.selected());
-    world.expect_flags_at_rest();
-    world.expect_title_tells_the_truth();
+    world.expect_in_one_piece();
 }
 
 TEST_F(PresetsTest, SongPresetPlaysItsSongAndBuildsANewCycleAroundIt) {
@@ -152,18 +141,23 @@ TEST_F(PresetsTest, SongPresetPlaysItsSongAndBuildsANewCycleAroundIt) {
     EXPECT_EQ(world.form.Label2.caption() + " " + world.form.Label4.caption(), "2 1");
     EXPECT_EQ(world.program.CurrentSongPath, "/other/y.mid");
     EXPECT_EQ(world.program.RecentSongs[0].name, "a.mid");
-    world.expect_flags_at_rest();
-    world.expect_title_tells_the_truth();
+    world.expect_in_one_piece();
     world.midi.finish();
     world.run_for(1000);
     EXPECT_EQ(world.played(), Log{"x.mid"});
-}
 
-TEST_F(PresetsTest, SongPresetInManualModePlaysAtOnceAndLeavesTheCycle) {
-    world.open_folder();
-    set(1, "/music", "c.mid");
+    world.midi.lengths["y.mid"] = 0;
+    world.start(PlayMode::Alpha);
     key(1).click();
-    EXPECT_EQ(world.played(), Log{"c.mid"});
+    world.run_for(2000);
+    EXPECT_EQ(world.open_song(), "x.mid") << "the other has ended at once";
+    world.expect_flags_at_rest();
+
+    world.settings().Mode = PlayMode::Manual;
+    set(2, "/music", "c.mid");
+    world.form.List1.clear();
+    key(2).click();
+    EXPECT_EQ(world.open_song(), "c.mid");
     EXPECT_TRUE(world.form.List1.empty());
 }
 
@@ -185,9 +179,10 @@ TEST_F(PresetsTest, PresetTellsSongsApartThatDifferInCase) {
 TEST_F(PresetsTest, VanishedFolderClearsThePresetAndBringsBackTheOldPlace) {
     set(1, "/gone", "x.mid");
     world.start(PlayMode::Alpha);
-    said();
+    world.said();
     key(1).click();
-    EXPECT_EQ(said(), Log{"message: Path Not Found for this Preset - Clearing Preset [Error]"});
+    EXPECT_EQ(world.said(),
+              Log{"message: Path Not Found for this Preset - Clearing Preset [Error]"});
     EXPECT_EQ(preset(1), "|");
     EXPECT_EQ(world.form.Dir1.path(), "/music");
     EXPECT_EQ(world.form.File1.selected(), 0U);
@@ -207,8 +202,7 @@ TEST_F(PresetsTest, SongThatEndsUnderTheMessageIsFollowedByTheNext) {
         key(number).click();
         world.messages.while_open = nullptr;
         EXPECT_EQ(world.open_song(), number == 1 ? "b.mid" : "y.mid");
-        world.expect_flags_at_rest();
-        world.expect_title_tells_the_truth();
+        world.expect_in_one_piece();
     }
 }
 
@@ -224,36 +218,24 @@ TEST_F(PresetsTest, VanishedSongLeavesItsFolder) {
         ASSERT_TRUE(world.form.Dir1.set_path("/music"));
         world.start(mode);
         set(1, folder, "gone.mid");
-        said();
+        world.said();
         world.played();
         key(1).click();
-        EXPECT_EQ(said(),
+        EXPECT_EQ(world.said(),
                   Log{"message: File Not Found for this Preset - Setting to path only [Error]"});
         EXPECT_EQ(preset(1), std::string(folder) + "|");
         EXPECT_EQ(world.form.Dir1.path(), folder);
         EXPECT_EQ(world.played(), played);
-        world.expect_flags_at_rest();
-        world.expect_title_tells_the_truth();
+        world.expect_in_one_piece();
     }
 }
 
-TEST_F(PresetsTest, SongThatEndsAtOnceIsFollowedByTheNext) {
-    world.midi.lengths["y.mid"] = 0;
-    set(1, "/other", "y.mid");
-    world.start(PlayMode::Alpha);
-    key(1).click();
-    world.run_for(2000);
-    EXPECT_EQ(world.open_song(), "x.mid");
-    world.expect_flags_at_rest();
-}
-
 TEST_F(PresetsTest, ViewStoresWhatIsTypedOnlyWithOk) {
-    test::FakeWindows windows;
+    FakeWindows windows;
     const ViewPresets view(world.stage, windows);
     set(2, "/other", "x.mid");
-    enum class Way { ok, cancel };
-    const auto edit = [&](Way way) {
-        windows.on_modal = [&, way](Form& form) {
+    for (Button Form8::*key : {&Form8::Command2, &Form8::Command1}) {
+        windows.on_modal = [&](Form& form) {
             auto& shown = dynamic_cast<Form8&>(form);
             EXPECT_EQ(shown.Text1[1]->text() + "|" + shown.text2[1]->text(), "/other|x.mid");
             EXPECT_EQ(world.program.CurrentForm, FormNumber::ViewPresets);
@@ -261,16 +243,14 @@ TEST_F(PresetsTest, ViewStoresWhatIsTypedOnlyWithOk) {
             shown.Text1[0]->set_text("/anything at all");
             shown.text2[0]->set_text("a.mid");
             shown.text2[4]->set_text("without a path.mid");
-            (way == Way::ok ? shown.Command1 : shown.Command2).click();
+            (shown.*key).click();
             EXPECT_FALSE(shown.loaded());
         };
         world.form.Command16.click();
-    };
-    edit(Way::cancel);
-    EXPECT_EQ(preset(1) + preset(2) + preset(5), "|/other|x.mid|");
-    edit(Way::ok);
-    EXPECT_EQ(preset(1) + preset(2) + preset(5), "/anything at all|a.mid||");
+        EXPECT_EQ(preset(1) + preset(2) + preset(5),
+                  key == &Form8::Command2 ? "|/other|x.mid|" : "/anything at all|a.mid||");
+    }
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

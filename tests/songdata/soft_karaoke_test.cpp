@@ -4,12 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
-
-using test::bytes;
-using test::karaoke_file;
-using test::text_events;
 
 const std::string kSignature = bytes({3, 12}) + "Soft Karaoke";
 const std::string kWords = bytes({3, 5}) + "Words";
@@ -51,7 +47,7 @@ TEST(SoftKaraoke, BecomesHeaderLinesAndWordsInLines) {
               "#Copper Moon\r\nClara\r\n\r\nCopper moon\r\nslowly");
 }
 
-TEST(SoftKaraoke, HeaderIsReadFromOneByteBehindTheSignature) {
+TEST(SoftKaraoke, HeaderIsReadFromOneByteBehindTheSignatureAndItsLinesLoseTheirTags) {
     const std::string ab = bytes({1, 2, 'a', 'b'});
     EXPECT_EQ(header_of(ab), "#") << "a 1 in the place of the time is no event";
     EXPECT_EQ(header_of("." + ab + "."), "ab\r\n#");
@@ -63,9 +59,6 @@ TEST(SoftKaraoke, HeaderIsReadFromOneByteBehindTheSignature) {
               std::string(200, 'x') + "\r\n#")
         << "a length is one byte";
     EXPECT_EQ(header_of("." + bytes({1, 0}) + "."), "\r\n#");
-}
-
-TEST(SoftKaraoke, HeaderLinesLoseTheirTags) {
     const auto line = [](std::string_view text) { return header_of(text_events({text}) + "."); };
     EXPECT_EQ(line("@Ttitle"), "title\r\n#");
     EXPECT_EQ(line("@T"), "\r\n#");
@@ -97,7 +90,7 @@ TEST(SoftKaraoke, WordsEndWithTheirTrack) {
     EXPECT_EQ(words_of("..." + bytes({1, 50}) + "cut"), "#cut");
 }
 
-TEST(SoftKaraoke, SyllablesAreMarked) {
+TEST(SoftKaraoke, SyllablesAreMarkedAndShownInTheirOwnEncodingWithoutControlCharacters) {
     const auto word = [](std::string_view text) {
         return words_of("..." + text_events({text}).substr(2));
     };
@@ -111,12 +104,6 @@ TEST(SoftKaraoke, SyllablesAreMarked) {
     EXPECT_EQ(word("@"), "#@");
     EXPECT_EQ(word("\\"), "#\r\n");
     EXPECT_EQ(word(""), "#");
-}
-
-TEST(SoftKaraoke, TextsAreShownInTheirOwnEncodingWithoutControlCharacters) {
-    const auto word = [](std::string_view text) {
-        return words_of("..." + text_events({text}).substr(2));
-    };
     EXPECT_EQ(word("caf\xC3\xA9"), "#caf\xC3\xA9");
     EXPECT_EQ(word("caf\xE9"), "#caf\xC3\xA9");
     EXPECT_EQ(word("\x80"), "#\xE2\x82\xAC");
@@ -151,4 +138,4 @@ TEST(SoftKaraoke, WordsComeTenSyllablesAtATime) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
 
 class SongNotesTest : public testing::Test {
@@ -29,72 +29,69 @@ class SongNotesTest : public testing::Test {
         return world.files.contents(world.path(name));
     }
 
-    test::World world{"SONG.MID", "long.midi", "waltz.mid"};
-    test::FakeWindows windows;
+    World world{"SONG.MID", "long.midi", "waltz.mid"};
+    FakeWindows windows;
     SongNotes notes{world.stage, windows};
 };
 
 TEST_F(SongNotesTest, ButtonNeedsASelectedSong) {
+    world.settings().ShowBar = 0;
     world.form.Command7.click();
     EXPECT_EQ(window(), nullptr);
     open("SONG.MID");
     EXPECT_EQ(window()->Label2.caption(), "SONG.MID ");
     EXPECT_TRUE(window()->visible());
+    EXPECT_EQ(windows.styles["Form4"], 0);
     window()->user_activated();
     EXPECT_EQ(world.program.CurrentForm, FormNumber::Notes);
+    world.settings().ShowBar = 1;
+    open("SONG.MID");
+    EXPECT_EQ(windows.styles["Form4"], kAppWindowStyle) << "as the main window";
 }
 
 TEST_F(SongNotesTest, EachWayOutOfTheWindowDoesWhatItSays) {
-    enum class Way { save, cancel, remove, close_box };
-    const std::vector<std::tuple<Way, std::string, std::optional<std::string>>> ways{
-        {Way::save, "new", "new\r\n"},      {Way::save, "", "old"},
-        {Way::cancel, "new", "old"},        {Way::remove, "new", std::nullopt},
-        {Way::close_box, "new", "new\r\n"}, {Way::close_box, "", "old"},
+    constexpr Button Form4::*close_box = nullptr;
+    const std::vector<std::tuple<Button Form4::*, std::string, std::optional<std::string>>> ways{
+        {&Form4::Command1, "new", "new\r\n"}, {&Form4::Command1, "", "old"},
+        {&Form4::Command2, "new", "old"},     {&Form4::Command3, "new", std::nullopt},
+        {close_box, "new", "new\r\n"},        {close_box, "", "old"},
     };
+    int number = 0;
     for (const auto& [way, typed, expected] : ways) {
         world.files.add_file(world.path("SONG.nte"), "old");
         open("SONG.MID");
         EXPECT_EQ(window()->Text1.text(), "old");
         window()->Text1.set_text(typed);
         window()->move_to(700, 800);
-        switch (way) {
-            case Way::save:
-                window()->Command1.click();
-                break;
-            case Way::cancel:
-                window()->Command2.click();
-                break;
-            case Way::remove:
-                window()->Command3.click();
-                break;
-            case Way::close_box:
-                window()->request_unload(CloseReason::user);
-                break;
+        if (way == close_box) {
+            window()->request_unload(CloseReason::user);
+        } else {
+            (window()->*way).click();
         }
         EXPECT_EQ(window(), nullptr);
-        EXPECT_EQ(note("SONG.nte"), expected) << static_cast<int>(way) << typed;
+        EXPECT_EQ(note("SONG.nte"), expected) << "way " << ++number;
         EXPECT_EQ(world.program.CurrentForm, FormNumber::Main);
         EXPECT_EQ(world.settings().F4Left, 700);
         EXPECT_EQ(world.settings().F4Top, 800);
     }
 }
 
-TEST_F(SongNotesTest, SavingWithoutEditingAddsALineAndReadsOldCharacters) {
+TEST_F(SongNotesTest, SavingWritesBesideTheSongAndReadsOldCharacters) {
     world.files.add_file(world.path("SONG.nte"), "caf\xE9\r\n");
     open("SONG.MID");
     EXPECT_EQ(window()->Text1.text(), "caf\xC3\xA9\r\n");
+    world.files.add_folder("/elsewhere");
+    ASSERT_TRUE(world.form.Dir1.set_path("/elsewhere"));  // where the folder list stands by now
     window()->Command1.click();
-    EXPECT_EQ(note("SONG.nte"), "caf\xC3\xA9\r\n\r\n");
-}
+    EXPECT_EQ(note("SONG.nte"), "caf\xC3\xA9\r\n\r\n") << "without editing, a line is added";
 
-TEST_F(SongNotesTest, NoteThatCannotBeSavedLeavesTheOldOneWithoutAMessage) {
-    world.files.add_file(world.path("SONG.nte"), "old");
+    ASSERT_TRUE(world.form.Dir1.set_path(world.folder));
     open("SONG.MID");
     window()->Text1.set_text("a much longer text");
-    world.happened();
     world.files.fail_write_number(1);
+    world.happened();
     window()->Command1.click();
-    EXPECT_EQ(note("SONG.nte"), "old");
+    EXPECT_EQ(note("SONG.nte"), "caf\xC3\xA9\r\n\r\n") << "it cannot be saved, without a message";
     EXPECT_EQ(window(), nullptr);
     EXPECT_TRUE(world.happened().empty());
 }
@@ -116,16 +113,6 @@ TEST_F(SongNotesTest, AutoNotesOpensForSongsThatHaveANote) {
     world.program.ResumePosition = 1000;
     world.engine->player.restart();
     EXPECT_EQ(window(), nullptr) << "a resumed song has shown its note";
-}
-
-// The folder list may stand elsewhere by then.
-TEST_F(SongNotesTest, NoteBelongsToTheSongsOwnFolder) {
-    open("SONG.MID");
-    world.files.add_folder("/elsewhere");
-    ASSERT_TRUE(world.form.Dir1.set_path("/elsewhere"));
-    window()->Text1.set_text("here");
-    window()->Command1.click();
-    EXPECT_EQ(note("SONG.nte"), "here\r\n");
 }
 
 TEST_F(SongNotesTest, OpenNoteFollowsItsSong) {
@@ -160,13 +147,5 @@ TEST_F(SongNotesTest, SongsThatDifferInCaseHaveNotesOfTheirOwn) {
     EXPECT_EQ(note("song.nte"), std::nullopt);
 }
 
-TEST_F(SongNotesTest, TaskbarButtonIsAsTheMainWindows) {
-    for (const std::int16_t bar : {0, 1}) {
-        world.settings().ShowBar = bar;
-        open("SONG.MID");
-        EXPECT_EQ(windows.styles["Form4"], bar == 1 ? kAppWindowStyle : 0);
-    }
-}
-
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

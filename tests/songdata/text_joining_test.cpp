@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
-
-using test::meta;
 
 std::string joined(std::string_view image, JoiningRule rule) {
     ShownText shown;
@@ -42,14 +40,6 @@ TEST(TextJoining, MakesLinesOfTextsAndWordsOfSyllables) {
     }
 }
 
-TEST(TextJoining, SortsTheTypesIntoSixCategories) {
-    std::vector<int> categories;
-    for (std::uint8_t type = 1; type <= 15; ++type) {
-        categories.push_back(static_cast<int>(category_of(type)));
-    }
-    EXPECT_EQ(categories, (std::vector<int>{1, 2, 3, 4, 5, 6, 6, 6, 6, 6, 6, 6, 6, 6, 6}));
-}
-
 TEST(TextJoining, EndsATextThatNoBoxCouldShow) {
     ShownText shown;
     const MidiTextItem line{.meta_type = 1, .text = std::string(998, 'x')};
@@ -61,4 +51,4 @@ TEST(TextJoining, EndsATextThatNoBoxCouldShow) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

@@ -116,6 +116,14 @@ Log World::happened() {
     return lines;
 }
 
+Log World::said() {
+    Log lines = happened();
+    std::erase_if(lines, [](const std::string& line) {
+        return !line.starts_with("message") && !line.starts_with("ask") && line != "beep";
+    });
+    return lines;
+}
+
 std::vector<std::string> World::names(const ListBox& list) {
     std::vector<std::string> names;
     for (const ListRow& row : list.items()) names.emplace_back(row.text);
@@ -155,6 +163,12 @@ void World::expect_window_unlocked() const {
     EXPECT_EQ(form.Command6.caption(), "Reset List");
 }
 
+void World::expect_in_one_piece() const {
+    expect_flags_at_rest();
+    expect_title_tells_the_truth();
+    expect_window_unlocked();
+}
+
 void World::expect_flags_at_rest() const {
     EXPECT_FALSE(program.SwitchingSong);
     EXPECT_FALSE(program.AutoStarting);
@@ -165,12 +179,6 @@ void World::expect_flags_at_rest() const {
     EXPECT_FALSE(program.DisplayBusy);
     EXPECT_FALSE(program.DelayActive);
     EXPECT_EQ(program.ResumePosition, 0);
-}
-
-void World::expect_whole() const {
-    expect_flags_at_rest();
-    expect_title_tells_the_truth();
-    expect_window_unlocked();
 }
 
 }  // namespace zephyne::test

@@ -89,8 +89,9 @@ class World {
     // call.
     std::vector<std::string> played();
 
-    // Everything in the log since the last call.
+    // Everything in the log since the last call; only what was said and asked of it.
     Log happened();
+    Log said();
 
     // The names in a list.
     static std::vector<std::string> names(const ListBox& list);
@@ -109,7 +110,7 @@ class World {
     void expect_flags_at_rest() const;
     void expect_title_tells_the_truth() const;
     void expect_window_unlocked() const;
-    void expect_whole() const;
+    void expect_in_one_piece() const;
 
   private:
     std::size_t played_up_to_ = 0;

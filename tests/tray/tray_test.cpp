@@ -15,8 +15,6 @@
 #include <QTextDocument>
 #include <QWindow>
 #include <optional>
-#include <string>
-#include <vector>
 
 namespace zephyne::test {
 namespace {
@@ -60,6 +58,21 @@ class TrayIcon : public testing::Test {
         record.set_tip("Zephyne - Playing \xC3\xA9tude.mid");
         area.notify_icon(NotifyCommand::add, record);
     }
+    void come_up() {
+        add();
+        ASSERT_TRUE(reached_by_click());
+    }
+    static void wait_for_menu() {
+        ASSERT_TRUE(wait_until([] { return open_menu() != nullptr; }));
+    }
+    void show_menu() {
+        area.show_menu();
+        wait_for_menu();
+    }
+    void choose_second(const QString& entry) {
+        choose(open_menu(), entry);
+        EXPECT_TRUE(wait_until([this] { return chosen == "second"; }));
+    }
 
     MenuItem first{.name = "first", .caption = "Stop & go"};
     MenuItem line{.name = "line", .kind = MenuItemKind::separator};
@@ -86,8 +99,7 @@ TEST_F(TrayIcon, ComesUpHoweverLateItsHostIsAndComesBackWithIt) {
 
 TEST_F(TrayIcon, ReportsEachReleaseOfTheLeftButtonAndOpensTheMenuWithTheRight) {
     const TrayHost host;
-    add();
-    ASSERT_TRUE(reached_by_click());
+    come_up();
     QProcess::execute("sleep", {"0.6"});  // no part of a double click any more
     QCoreApplication::processEvents();
     events.clear();
@@ -97,7 +109,7 @@ TEST_F(TrayIcon, ReportsEachReleaseOfTheLeftButtonAndOpensTheMenuWithTheRight) {
 
     events.clear();
     mouse(kIcon, kIcon, {"click", "3"});
-    ASSERT_TRUE(wait_until([] { return open_menu() != nullptr; }));
+    wait_for_menu();
     area.show_menu();
     EXPECT_EQ(open_menu()->defaultAction()->text(), "Show");
     EXPECT_TRUE(wait_until([this] { return !events.empty(); }));
@@ -109,10 +121,8 @@ TEST_F(TrayIcon, ReportsEachReleaseOfTheLeftButtonAndOpensTheMenuWithTheRight) {
 
 TEST_F(TrayIcon, TheOpenMenuFollowsThePlayerAndOutlivesItsHost) {
     std::optional<TrayHost> host(std::in_place);
-    add();
-    ASSERT_TRUE(reached_by_click());
-    area.show_menu();
-    ASSERT_TRUE(wait_until([] { return open_menu() != nullptr; }));
+    come_up();
+    show_menu();
     second.caption = "Play";
     hidden.visible = true;
     off.enabled = true;
@@ -132,19 +142,16 @@ TEST_F(TrayIcon, TheOpenMenuFollowsThePlayerAndOutlivesItsHost) {
 
     host.reset();
     EXPECT_TRUE(wait_until([this] { return !area.has_host(); }));
-    choose(open_menu(), "Play");
-    EXPECT_TRUE(wait_until([this] { return chosen == "second"; }));
+    choose_second("Play");
 
-    area.show_menu();
-    ASSERT_TRUE(wait_until([] { return open_menu() != nullptr; }));
+    show_menu();
     area.notify_icon(NotifyCommand::remove, record);
     EXPECT_EQ(open_menu(), nullptr);
 }
 
 TEST_F(TrayIcon, MayBeTakenAwayInAnswerToItsClick) {
     const TrayHost host;
-    add();
-    ASSERT_TRUE(reached_by_click());
+    come_up();
     area.notify_icon(NotifyCommand::modify, record);
     area.on_message = [&](auto...) { area.notify_icon(NotifyCommand::remove, record); };
     for (const QPointer<QWidget> icon : QApplication::topLevelWidgets()) {
@@ -174,8 +181,7 @@ TEST_F(TrayIcon, ShowsNoNameAsMarkup) {
 
 TEST_F(TrayIcon, IsReachedWhileAWindowIsModal) {
     const TrayHost host;
-    add();
-    ASSERT_TRUE(reached_by_click());
+    come_up();
     QDialog dialog;
     dialog.setWindowModality(Qt::ApplicationModal);
     dialog.setGeometry(300, 300, 100, 100);
@@ -183,10 +189,8 @@ TEST_F(TrayIcon, IsReachedWhileAWindowIsModal) {
     record.uFlags = NotifyIconData::tip_valid;
     area.notify_icon(NotifyCommand::modify, record);
     EXPECT_TRUE(reached_by_click());
-    area.show_menu();
-    ASSERT_TRUE(wait_until([] { return open_menu() != nullptr; }));
-    choose(open_menu(), "Show");
-    EXPECT_TRUE(wait_until([this] { return chosen == "second"; }));
+    show_menu();
+    choose_second("Show");
 }
 
 }  // namespace
