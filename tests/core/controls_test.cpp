@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <vector>
-
 namespace zephyne::test {
 namespace {
 
@@ -15,6 +12,14 @@ struct EventRow {
     Act act;
     Log events;
 };
+
+Act drag(std::vector<int> values) {
+    return [values = std::move(values)](ControlBench& bench) {
+        bench.slider.press();
+        for (const int value : values) bench.slider.drag_to(value);
+        bench.slider.release();
+    };
+}
 
 // What the user does. All of it is silent where the control is disabled or hidden.
 const std::vector<EventRow>& user_acts() {
@@ -32,21 +37,10 @@ const std::vector<EventRow>& user_acts() {
         {"step a slider", [](auto& b) { b.slider.step_to(10); }, {"scroll", "change"}},
         {"press a slider", [](auto& b) { b.slider.press(), b.slider.release(); }, {"down", "up"}},
         {"drag a slider",
-         [](auto& b) {
-             b.slider.press();
-             b.slider.drag_to(30);
-             b.slider.drag_to(30);
-             b.slider.drag_to(75);
-             b.slider.release();
-         },
+         drag({30, 30, 75}),
          {"down", "scroll", "move", "move", "scroll", "move", "up", "change"}},
         {"drag it there and back",
-         [](auto& b) {
-             b.slider.press();
-             b.slider.drag_to(30);
-             b.slider.drag_to(0);
-             b.slider.release();
-         },
+         drag({30, 0}),
          {"down", "scroll", "move", "scroll", "move", "up"}},
     };
     return acts;
@@ -62,15 +56,12 @@ TEST(Controls, TheUsersActsRaiseTheseEvents) {
 
 TEST(Controls, NothingHappensInAFrameThatIsDisabledOrHidden) {
     for (const EventRow& row : user_acts()) {
-        ControlBench disabled;
-        disabled.frame.set_enabled(false);
-        row.act(disabled);
-        EXPECT_EQ(disabled.events(), Log()) << row.what;
-
-        ControlBench hidden;
-        hidden.frame.set_visible(false);
-        row.act(hidden);
-        EXPECT_EQ(hidden.events(), Log()) << row.what;
+        for (const auto make_unusable : {&Control::set_enabled, &Control::set_visible}) {
+            ControlBench bench;
+            (bench.frame.*make_unusable)(false);
+            row.act(bench);
+            EXPECT_EQ(bench.events(), Log()) << row.what;
+        }
     }
 }
 
@@ -131,7 +122,7 @@ TEST(Controls, TheseChangesFromCodeAreSilent) {
     EXPECT_EQ(bench.folders.path(), "/music");
 }
 
-TEST(Controls, ASliderKeepsToItsRangeAndAKeyBoxToTwoValues) {
+TEST(Controls, ASliderKeepsToItsRangeAndABoxToTwoValues) {
     ControlBench bench;
     bench.slider.set_value(250);
     EXPECT_EQ(bench.slider.value(), Slider::highest);
@@ -151,14 +142,6 @@ TEST(Controls, AKeyThatNothingListensToIsShownDisabled) {
     EXPECT_TRUE(mute.usable());
 }
 
-TEST(Controls, AKeyPressCanBeSwallowed) {
-    ControlBench bench;
-    EXPECT_TRUE(bench.text.press_key(13));
-    bench.text.on_key_press = [](char32_t key) { return key != 13; };
-    EXPECT_FALSE(bench.text.press_key(13));
-    EXPECT_TRUE(bench.text.press_key('x'));
-}
-
 TEST(Controls, TheAccessibleNameIsTheCaptionThenTheSheetsThenTheLastTooltip) {
     ControlBench bench;
     Label value(bench, {.name = "value"});
@@ -174,15 +157,15 @@ TEST(Controls, TheAccessibleNameIsTheCaptionThenTheSheetsThenTheLastTooltip) {
     EXPECT_EQ(bench.text.accessible_name(), "Find");
 }
 
-class Watcher final : public ControlObserver {
-  public:
+std::string changed(const std::string& who, Property property) {
+    return who + " " + std::to_string(static_cast<int>(property));
+}
+
+struct Watcher final : ControlObserver {
     Watcher(Log& log, std::string name) : log_(log), name_(std::move(name)) {}
-    void property_changed(Property property) override {
-        log_.push_back(name_ + " " + std::to_string(static_cast<int>(property)));
-    }
+    void property_changed(Property property) override { log_.push_back(changed(name_, property)); }
     void subject_gone() override { log_.push_back(name_ + " gone"); }
 
-  private:
     Log& log_;
     std::string name_;
 };
@@ -192,9 +175,6 @@ TEST(Controls, AnObserverHearsOfEachChangeOnceAndOfTheEnd) {
     Watcher form(log, "form");
     Watcher key(log, "key");
     Watcher outside(log, "outside");
-    const auto changed = [](const char* who, Property property) {
-        return std::string(who) + " " + std::to_string(static_cast<int>(property));
-    };
     {
         ControlBench bench;
         bench.observe(&form);

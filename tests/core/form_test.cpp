@@ -71,23 +71,17 @@ struct ClosingForm : ControlBench {
     std::function<void()> while_asking;
 };
 
-TEST(ClosingAForm, UnloadsOnceAndHides) {
-    ClosingForm form;
-    EXPECT_TRUE(form.request_unload(CloseReason::user));
-    EXPECT_FALSE(form.visible());
-    EXPECT_FALSE(form.loaded());
-    EXPECT_FALSE(form.request_unload(CloseReason::session_end));
-    EXPECT_EQ(form.events(), (Log{"query 0", "unload"}));
-}
-
-TEST(ClosingAForm, CanBeCancelled) {
+TEST(ClosingAForm, CanBeCancelledAndUnloadsOnceAndHides) {
     ClosingForm form;
     form.keep_open = true;
     EXPECT_FALSE(form.request_unload(CloseReason::program));
     EXPECT_TRUE(form.visible());
     form.keep_open = false;
-    EXPECT_TRUE(form.request_unload(CloseReason::program));
-    EXPECT_EQ(form.events(), (Log{"query 1", "query 1", "unload"}));
+    EXPECT_TRUE(form.request_unload(CloseReason::user));
+    EXPECT_FALSE(form.visible());
+    EXPECT_FALSE(form.loaded());
+    EXPECT_FALSE(form.request_unload(CloseReason::session_end));
+    EXPECT_EQ(form.events(), (Log{"query 1", "query 0", "unload"}));
 }
 
 TEST(ClosingAForm, IsNotAskedTwiceAtATime) {

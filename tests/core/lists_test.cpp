@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <random>
-#include <vector>
 
 namespace zephyne::test {
 namespace {
@@ -85,11 +84,13 @@ TEST(SortedList, OrdersEntriesByNameThenFolder) {
                               "a.mid|/B/", "a|b.mid|/c/"}) {
         lists.entries.add({entry, {}});
     }
-    std::vector<std::string> order;
-    for (const ListRow& row : lists.entries.items()) order.emplace_back(row.text);
-    EXPECT_EQ(order,
-              (std::vector<std::string>{"a.mid|/B/", "a.mid|/b/", "a.mid|/z/", "a.mid.mid|/1/",
-                                        "a|b.mid|/c/", "B.mid|/1/", "b.mid|/2/"}));
+    EXPECT_EQ(lists.entries.items(), ListRows({{"a.mid|/B/", {}},
+                                               {"a.mid|/b/", {}},
+                                               {"a.mid|/z/", {}},
+                                               {"a.mid.mid|/1/", {}},
+                                               {"a|b.mid|/c/", {}},
+                                               {"B.mid|/1/", {}},
+                                               {"b.mid|/2/", {}}}));
 }
 
 TEST(SortedList, RowsThatLookTheSameKeepTheirRealNames) {
@@ -223,16 +224,17 @@ TEST(AnExtendedList, KeepsItsSelectionWhenOtherRowsComeAndGo) {
     EXPECT_EQ(desk.click(0, ClickWith::shift), "x");
 }
 
-TEST(AQueue, KeepsTheOrderInWhichItWasFilled) {
-    Lists lists;
-    lists.queue.set_items({{"b", {}}, {"a", {}}});
-    EXPECT_EQ(lists.queue.add({"A", {}}), 2U);
-    EXPECT_EQ(lists.queue.item(0).text, "b");
-}
-
 struct FolderDesk : Form {
-    FolderDesk(PathStyle style, const std::string& folder)
-        : Form({.name = "Folders"}), files(style, folder) {}
+    FolderDesk(PathStyle style, const std::string& folder, const std::vector<Volume>& volumes,
+               const Log& below = {})
+        : Form({.name = "Folders"}), files(style, folder) {
+        for (const Volume& volume : volumes) {
+            files.add_volume(volume.root, volume.name, volume.label);
+        }
+        for (const std::string& name : below) files.add_folder(name);
+        drives = std::make_unique<DriveList>(*this, files, ControlDesign{.name = "Drives"});
+        folders = std::make_unique<DirList>(*this, files, ControlDesign{.name = "Folders"});
+    }
 
     Log rows() const {
         Log texts;
@@ -241,10 +243,6 @@ struct FolderDesk : Form {
         }
         return texts;
     }
-    void open_lists() {
-        drives = std::make_unique<DriveList>(*this, files, ControlDesign{.name = "Drives"});
-        folders = std::make_unique<DirList>(*this, files, ControlDesign{.name = "Folders"});
-    }
 
     MemoryFileSystem files;
     std::unique_ptr<DriveList> drives;
@@ -252,13 +250,9 @@ struct FolderDesk : Form {
 };
 
 TEST(FolderLists, ShowTheWayFromTheVolumeDownAndWhatLiesBelow) {
-    FolderDesk desk(PathStyle::posix, "/home/clara/music");
-    desk.files.add_volume("/home/clara", "Home");
-    desk.files.add_volume("/", "System");
-    for (const char* name : {"rags", "Blues", "études", "Etudes"}) {
-        desk.files.add_folder("/home/clara/music/" + std::string(name));
-    }
-    desk.open_lists();
+    FolderDesk desk(PathStyle::posix, "/home/clara/music",
+                    {{"/home/clara", "Home", ""}, {"/", "System", ""}},
+                    {"rags", "Blues", "études", "Etudes"});
     EXPECT_EQ(desk.drives->drive().name, "Home") << "the longest root";
     EXPECT_EQ(desk.rows(), (Log{"Home", ">music", ">>Blues", ">>Etudes", ">>rags", ">>études"}));
     EXPECT_EQ(desk.folders->current_row(), 1U);
@@ -274,11 +268,8 @@ TEST(FolderLists, ShowTheWayFromTheVolumeDownAndWhatLiesBelow) {
 }
 
 TEST(FolderLists, WorkOnDrivesWithoutRegardToCase) {
-    FolderDesk desk(PathStyle::windows, "C:\\");
-    desk.files.add_volume("C:\\", "c:", "SYSTEM");
-    desk.files.add_volume("D:\\", "d:");
-    desk.files.add_folder("D:\\Songs\\Rags");
-    desk.open_lists();
+    FolderDesk desk(PathStyle::windows, "C:\\", {{"C:\\", "c:", "SYSTEM"}, {"D:\\", "d:", ""}},
+                    {"D:\\Songs\\Rags"});
     EXPECT_EQ(desk.rows(), Log{"c:"});
     EXPECT_EQ(desk.drives->drive().text(), "c:  [SYSTEM]");
     ASSERT_TRUE(desk.drives->set_drive_of("d:\\songs"));
@@ -290,10 +281,8 @@ TEST(FolderLists, WorkOnDrivesWithoutRegardToCase) {
 }
 
 TEST(FolderLists, StayWhereTheyAreWhenAFolderCannotBeRead) {
-    FolderDesk desk(PathStyle::posix, "/music");
-    desk.files.add_folder("/music/secret");
+    FolderDesk desk(PathStyle::posix, "/music", {}, {"secret"});
     desk.files.add_file("/music/a.mid");
-    desk.open_lists();
     desk.files.deny("/music/secret");
     EXPECT_FALSE(desk.folders->set_path("/music/secret"));
     EXPECT_FALSE(desk.folders->set_path("/music/a.mid"));
@@ -306,10 +295,7 @@ TEST(FolderLists, StayWhereTheyAreWhenAFolderCannotBeRead) {
 }
 
 TEST(FolderLists, AChosenDriveStaysChosenWhenOthersComeAndGo) {
-    FolderDesk desk(PathStyle::posix, "/music");
-    desk.files.add_volume("/", "System");
-    desk.files.add_volume("/stick", "Stick");
-    desk.open_lists();
+    FolderDesk desk(PathStyle::posix, "/music", {{"/", "System", ""}, {"/stick", "Stick", ""}});
     desk.drives->choose(1);
     desk.files.remove("/stick");
     desk.drives->refresh();

@@ -22,23 +22,18 @@ TEST(Paths, AFolderGetsItsSeparatorOnce) {
 }
 
 TEST(Paths, SplitBehindTheirLastSeparator) {
-    struct Row {
-        std::string path;
-        PathStyle style;
-        std::string folder;
-        std::string name;
-    };
-    for (const Row& row :
-         std::vector<Row>{{"/music/a.mid", PathStyle::posix, "/music/", "a.mid"},
-                          {"a.mid", PathStyle::posix, "", "a.mid"},
-                          {"/music/a\\b:c.mid", PathStyle::posix, "/music/", "a\\b:c.mid"},
-                          {"/music/", PathStyle::posix, "/music/", ""},
-                          {"", PathStyle::posix, "", ""},
-                          {"C:\\music\\a.mid", PathStyle::windows, "C:\\music\\", "a.mid"},
-                          {"C:a.mid", PathStyle::windows, "C:", "a.mid"}}) {
-        const SplitPath split = split_path(row.path, row.style);
-        EXPECT_EQ(split.folder, row.folder) << row.path;
-        EXPECT_EQ(split.name, row.name) << row.path;
+    using Strings = std::vector<std::string>;
+    const std::vector<std::pair<PathStyle, Strings>> table = {
+        {PathStyle::posix, {"/music/", "a.mid"}},
+        {PathStyle::posix, {"", "a.mid"}},
+        {PathStyle::posix, {"/music/", "a\\b:c.mid"}},
+        {PathStyle::posix, {"/music/", ""}},
+        {PathStyle::posix, {"", ""}},
+        {PathStyle::windows, {"C:\\music\\", "a.mid"}},
+        {PathStyle::windows, {"C:", "a.mid"}}};
+    for (const auto& [style, parts] : table) {
+        const SplitPath split = split_path(parts[0] + parts[1], style);
+        EXPECT_EQ((Strings{std::string(split.folder), std::string(split.name)}), parts);
     }
 }
 

@@ -3,63 +3,58 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zephyne {
 namespace {
 
 TEST(ProfileText, ReadsTheFirstSuchKeyOfTheSection) {
-    struct Row {
-        std::string text;
-        std::string value;  // "-": missing
+    // The text of a file, and the value found there; "-": none.
+    const std::vector<std::pair<std::string, std::string>> table = {
+        {"[TIP]\r\nSTART=T\r\n", "T"},
+        {"[tip]\nstart=T", "T"},
+        {"[Tip]\rStArT=T\rSTART=F\r", "T"},
+        {"\xEF\xBB\xBF[TIP]\r\nSTART=T\r\n", "T"},
+        {"  [ TIP ] \r\n\t START \t= \tT \t\r\n", "T"},
+        {"[TIP]\r\nSTART=\"T\"\r\n", "T"},
+        {"[TIP]\r\nSTART= ' T ' \r\n", " T "},
+        {"[TIP]\r\nSTART=\"\r\n", "\""},
+        {"[TIP]\r\nSTART='T\"\r\n", "'T\""},
+        {"[TIP]\r\nSTART=\"\"T\"\"\r\n", "\"T\""},
+        {"[TIP]\r\nSTART=a=b\r\n", "a=b"},
+        {"[TIP]\r\nSTART=\r\n", ""},
+        {"[A]\r\nSTART=F\r\n[TIP]\r\nSTART=T\r\n", "T"},
+        {"[TIP]\r\n1=a\r\n[B]\r\nSTART=F\r\n[TIP]\r\nSTART=T\r\n", "T"},
+        {"[TIP]\r\n[x=y]\r\nSTART=F\r\n", "-"},
+        {"[TIP]\r\n;START=F\r\nSTART\r\nSTARTS=F\r\n", "-"},
+        {"[TIP\r\nSTART=F\r\n", "-"},
+        {"START=F\r\n", "-"},
+        {"]\r\n[\r\n=\r\n", "-"},
+        {"", "-"},
     };
-    for (const Row& row : std::vector<Row>{
-             {"[TIP]\r\nSTART=T\r\n", "T"},
-             {"[tip]\nstart=T", "T"},
-             {"[Tip]\rStArT=T\rSTART=F\r", "T"},
-             {"\xEF\xBB\xBF[TIP]\r\nSTART=T\r\n", "T"},
-             {"  [ TIP ] \r\n\t START \t= \tT \t\r\n", "T"},
-             {"[TIP]\r\nSTART=\"T\"\r\n", "T"},
-             {"[TIP]\r\nSTART= ' T ' \r\n", " T "},
-             {"[TIP]\r\nSTART=\"\r\n", "\""},
-             {"[TIP]\r\nSTART='T\"\r\n", "'T\""},
-             {"[TIP]\r\nSTART=\"\"T\"\"\r\n", "\"T\""},
-             {"[TIP]\r\nSTART=a=b\r\n", "a=b"},
-             {"[TIP]\r\nSTART=\r\n", ""},
-             {"[A]\r\nSTART=F\r\n[TIP]\r\nSTART=T\r\n", "T"},
-             {"[TIP]\r\n1=a\r\n[B]\r\nSTART=F\r\n[TIP]\r\nSTART=T\r\n", "T"},
-             {"[TIP]\r\n[x=y]\r\nSTART=F\r\n", "-"},
-             {"[TIP]\r\n;START=F\r\nSTART\r\nSTARTS=F\r\n", "-"},
-             {"[TIP\r\nSTART=F\r\n", "-"},
-             {"START=F\r\n", "-"},
-             {"]\r\n[\r\n=\r\n", "-"},
-             {"", "-"},
-         }) {
-        EXPECT_EQ(profile_value(row.text, "TIP", " START ").value_or("-"), row.value) << row.text;
+    for (const auto& [text, value] : table) {
+        EXPECT_EQ(profile_value(text, "TIP", " START ").value_or("-"), value) << text;
     }
 }
 
 TEST(ProfileText, WritingLeavesAllOtherBytesAlone) {
-    struct Row {
-        std::string before;
-        std::string after;
+    const std::vector<std::pair<std::string, std::string>> table = {
+        {"[TIP]\r\nCURRENT=1\r\n1=a\r\n", "[TIP]\r\nCURRENT= 2\r\n1=a\r\n"},
+        {"[tip]\n current = 1 \n1=a", "[tip]\n current = 2\n1=a"},
+        {"[TIP]\r\nCURRENT=\"7\"", "[TIP]\r\nCURRENT= 2"},
+        {"\xEF\xBB\xBF;c\n\n[TIP]\r1=\xE9\rCURRENT=\r",
+         "\xEF\xBB\xBF;c\n\n[TIP]\r1=\xE9\rCURRENT= 2\r"},
+        {"[TIP]\r\n1=a\r\n\r\n\r\n[B]\r\nCURRENT=5\r\n",
+         "[TIP]\r\n1=a\r\nCURRENT= 2\r\n\r\n\r\n[B]\r\nCURRENT=5\r\n"},
+        {"[B]\n[TIP]", "[B]\n[TIP]\r\nCURRENT= 2\r\n"},
+        {"[B]\nx=1\n", "[B]\nx=1\n[TIP]\r\nCURRENT= 2\r\n"},
+        {"no end", "no end\r\n[TIP]\r\nCURRENT= 2\r\n"},
+        {"\xEF\xBB\xBF", "\xEF\xBB\xBF[TIP]\r\nCURRENT= 2\r\n"},
+        {"", "[TIP]\r\nCURRENT= 2\r\n"},
     };
-    for (const Row& row : std::vector<Row>{
-             {"[TIP]\r\nCURRENT=1\r\n1=a\r\n", "[TIP]\r\nCURRENT= 2\r\n1=a\r\n"},
-             {"[tip]\n current = 1 \n1=a", "[tip]\n current = 2\n1=a"},
-             {"[TIP]\r\nCURRENT=\"7\"", "[TIP]\r\nCURRENT= 2"},
-             {"\xEF\xBB\xBF;c\n\n[TIP]\r1=\xE9\rCURRENT=\r",
-              "\xEF\xBB\xBF;c\n\n[TIP]\r1=\xE9\rCURRENT= 2\r"},
-             {"[TIP]\r\n1=a\r\n\r\n\r\n[B]\r\nCURRENT=5\r\n",
-              "[TIP]\r\n1=a\r\nCURRENT= 2\r\n\r\n\r\n[B]\r\nCURRENT=5\r\n"},
-             {"[B]\n[TIP]", "[B]\n[TIP]\r\nCURRENT= 2\r\n"},
-             {"[B]\nx=1\n", "[B]\nx=1\n[TIP]\r\nCURRENT= 2\r\n"},
-             {"no end", "no end\r\n[TIP]\r\nCURRENT= 2\r\n"},
-             {"\xEF\xBB\xBF", "\xEF\xBB\xBF[TIP]\r\nCURRENT= 2\r\n"},
-             {"", "[TIP]\r\nCURRENT= 2\r\n"},
-         }) {
-        const std::string after = with_profile_value(row.before, "TIP", "CURRENT", " 2");
-        EXPECT_EQ(after, row.after);
+    for (const auto& [before, after] : table) {
+        EXPECT_EQ(with_profile_value(before, "TIP", "CURRENT", " 2"), after);
         EXPECT_EQ(profile_value(after, "tip", "current"), "2");
     }
 }

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <string>
-
 namespace zephyne::test {
 namespace {
 
@@ -31,9 +28,7 @@ class HandedOver : public testing::TestWithParam<PathStyle> {
         world.hand_over(path);
         world.run_for(1500);
         EXPECT_EQ(world.form.Label15.caption(), "");
-        world.expect_title_tells_the_truth();
-        world.expect_window_unlocked();
-        world.expect_flags_at_rest();
+        world.expect_in_one_piece();
     }
     Log remaining() const { return World::names(world.form.List1); }
 
@@ -42,20 +37,19 @@ class HandedOver : public testing::TestWithParam<PathStyle> {
 };
 
 INSTANTIATE_TEST_SUITE_P(Of, HandedOver, testing::Values(PathStyle::posix, PathStyle::windows),
-                         [](const auto& tested) {
-                             return tested.param == PathStyle::posix ? "Posix" : "Windows";
-                         });
+                         style_name);
 
 TEST_P(HandedOver, ASongOfTheShownFolderPlaysAndAllOthersRemain) {
-    world.random.numbers = {0.99};
-    start(PlayMode::Random);
-    hand_over(world.path("b.mid"));
-    EXPECT_EQ(world.happened(), (Log{"close c.mid", "open b.mid", "play b.mid"}));
-    EXPECT_EQ(world.form.File1.selected(), 1U);
-    EXPECT_EQ(remaining(), (Log{"a.mid", "c.mid"}));
-    EXPECT_EQ(world.form.Label2.caption(), "3");
-    EXPECT_EQ(world.form.Label4.caption(), "2");
-    EXPECT_EQ(world.program.RecentSongs[0].name, "c.mid");
+    for (const std::string& line :
+         {world.path("b.mid"), world.path("B.MID"), std::string("b.mid")}) {
+        start(PlayMode::Alpha);
+        hand_over(line);
+        EXPECT_EQ(world.happened(), (Log{"close a.mid", "open b.mid", "play b.mid"})) << line;
+        EXPECT_EQ(world.form.File1.selected(), 1U);
+        EXPECT_EQ(remaining(), (Log{"a.mid", "c.mid"}));
+        EXPECT_EQ(world.counts(), "3, 2");
+        EXPECT_EQ(world.program.RecentSongs[0].name, "a.mid");
+    }
 }
 
 TEST_P(HandedOver, ASongOfAnotherFolderBringsItsFolder) {
@@ -67,7 +61,7 @@ TEST_P(HandedOver, ASongOfAnotherFolderBringsItsFolder) {
     EXPECT_EQ(world.form.title(), "Zephyne - Playing x.mid");
     EXPECT_EQ(remaining(), Log{"y.mid"});
     EXPECT_FALSE(world.program.PausedByUser);
-    world.run_for(180'000);
+    world.finish_song();
     EXPECT_EQ(world.form.title(), "Zephyne - Playing y.mid");
 }
 
@@ -87,21 +81,19 @@ TEST_P(HandedOver, TheNewCycleRunsBackwardsWhereTheOrderDoes) {
     world.settings().Reverse = 1;
     start(PlayMode::Alpha);
     hand_over(world.path("b.mid"));
-    world.run_for(180'000);
+    world.finish_song();
     EXPECT_EQ(world.form.title(), "Zephyne - Playing c.mid");
-    world.run_for(180'000);
+    world.finish_song();
     EXPECT_EQ(world.form.title(), "Zephyne - Playing a.mid");
 }
 
-TEST_P(HandedOver, ContinuousPlayKeepsAllSongs) {
+TEST_P(HandedOver, ContinuousPlayKeepsAllSongsAndManualModeItsCounter) {
     world.settings().Continuous = 1;
     start(PlayMode::Alpha);
     hand_over(world.path("b.mid"));
     EXPECT_EQ(remaining(), (Log{"a.mid", "b.mid", "c.mid"}));
     EXPECT_EQ(world.form.Label4.caption(), "Continuous");
-}
 
-TEST_P(HandedOver, InManualModeTheCounterOfSongsToPlayIsLeftAlone) {
     start(PlayMode::Manual);
     world.form.Label4.set_caption("N/A");
     hand_over(world.path("b.mid"));
@@ -109,21 +101,9 @@ TEST_P(HandedOver, InManualModeTheCounterOfSongsToPlayIsLeftAlone) {
     EXPECT_EQ(world.form.title(), "Zephyne - Playing b.mid");
 }
 
-TEST_P(HandedOver, ANameInOtherLettersFindsItsSong) {
-    start(PlayMode::Alpha);
-    hand_over(world.path("B.MID"));
-    EXPECT_EQ(world.happened(), (Log{"close a.mid", "open b.mid", "play b.mid"}));
-    EXPECT_EQ(world.form.File1.selected(), 1U);
-    EXPECT_EQ(remaining(), (Log{"a.mid", "c.mid"}));
-}
-
-TEST_P(HandedOver, ANameWithoutAFolderIsTakenFromTheShownFolder) {
-    start(PlayMode::Alpha);
-    hand_over("b.mid");
-    EXPECT_EQ(world.program.CurrentSongPath, world.path("b.mid"));
-
+TEST_P(HandedOver, ANameWithoutAFolderMustBeInTheShownOne) {
     (void)world.form.Dir1.set_path(other);
-    world.happened();
+    start(PlayMode::Alpha);
     hand_over("b.mid");
     EXPECT_EQ(world.happened().back(),
               "message: Error - Path is unspecified for the current file.  Can't locate file! "
@@ -139,17 +119,15 @@ TEST_P(HandedOver, WhatIsNoSongOrIsNotThereIsReported) {
     EXPECT_EQ(world.happened(), Log{kUnknown});
     EXPECT_EQ(world.form.title(), "Zephyne - Playing a.mid");
     EXPECT_EQ(world.form.File1.selected(), 0U) << "what plays is still selected";
-    world.run_for(180'000);
+    world.finish_song();
     EXPECT_EQ(world.form.title(), "Zephyne - Playing b.mid") << "the order goes on";
-}
 
-TEST_P(HandedOver, WhatIsNoSongOfAnotherFolderStillBringsItsFolder) {
     world.files.add_file(in_other("notes.txt"));
-    start(PlayMode::Alpha);
+    world.happened();
     hand_over(in_other("notes.txt"));
     EXPECT_EQ(world.happened(), Log{kUnknown});
-    EXPECT_EQ(World::names(world.form.File1), (Log{"x.mid", "y.mid"}));
-    world.run_for(180'000);
+    EXPECT_EQ(World::names(world.form.File1), (Log{"x.mid", "y.mid"})) << "its folder comes";
+    world.finish_song();
     EXPECT_EQ(world.form.title(), "Zephyne - Playing x.mid");
 }
 
@@ -160,23 +138,18 @@ TEST_P(HandedOver, WhileAMessageIsOpenASongPlaysAndStays) {
         w.midi.broken = {"a.mid"};
         w.click("a.mid");
     };
-    const auto deleted_while_it_played = [&](World& w) {
-        w.open_folder();
-        w.click("a.mid");
-        w.files.remove(w.path("a.mid"));
-        w.midi.finish();
-        w.pump.pump();
+    const auto deleted_before = [](std::function<void(World&)> end) {
+        return [end = std::move(end)](World& w) {
+            w.open_folder();
+            w.click("a.mid");
+            w.files.remove(w.path("a.mid"));
+            end(w);
+        };
     };
-    const auto deleted_before_stop = [&](World& w) {
-        w.open_folder();
-        w.click("a.mid");
-        w.files.remove(w.path("a.mid"));
-        w.form.MMControl1.press(TransportKey::stop);
-    };
-    for (const std::function<void(World&)>& act :
-         {std::function<void(World&)>(broken_in_playlist),
-          std::function<void(World&)>(deleted_while_it_played),
-          std::function<void(World&)>(deleted_before_stop)}) {
+    const std::vector<std::function<void(World&)>> acts = {
+        broken_in_playlist, deleted_before([](World& w) { w.finish_song(); }),
+        deleted_before([](World& w) { w.form.MMControl1.press(TransportKey::stop); })};
+    for (const auto& act : acts) {
         World fresh({"a.mid", "b.mid"}, GetParam());
         fresh.settings().AutoReset = 0;
         fresh.messages.while_open = [&] {
@@ -186,9 +159,7 @@ TEST_P(HandedOver, WhileAMessageIsOpenASongPlaysAndStays) {
         act(fresh);
         EXPECT_EQ(fresh.open_song(), "b.mid");
         EXPECT_EQ(fresh.device.Mode(), DeviceMode::playing);
-        fresh.expect_title_tells_the_truth();
-        fresh.expect_window_unlocked();
-        fresh.expect_flags_at_rest();
+        fresh.expect_in_one_piece();
     }
 }
 
@@ -203,43 +174,25 @@ TEST_P(HandedOver, AFolderThatCannotBeShownIsReportedAndTheSongGoesOn) {
 }
 
 TEST_P(HandedOver, BesideAPlaylistTheSongPlaysAndTheListStays) {
-    world.open_playlist({"a.mid|" + with_separator(world.folder, GetParam()),
-                         "c.mid|" + with_separator(world.folder, GetParam())});
-    world.settings().Mode = PlayMode::Alpha;
-    world.engine->order.RefillAndPlayNext();
+    const std::string folder = with_separator(world.folder, GetParam());
+    world.start_playlist(PlayMode::Alpha, {"a.mid|" + folder, "c.mid|" + folder});
     const Log before = remaining();
     hand_over(in_other("x.mid"));
     EXPECT_EQ(world.form.title(), "Zephyne - Playing " + in_other("x.mid"));
     EXPECT_EQ(world.form.File1.selected(), std::nullopt);
     EXPECT_EQ(world.form.File1.count(), 2U);
     EXPECT_EQ(remaining(), before);
-    world.run_for(180'000);
+    world.finish_song();
     EXPECT_EQ(world.form.title(), "Zephyne - Playing c.mid") << "then the list goes on";
-}
-
-TEST_P(HandedOver, InQueueModeSongsWaitInTheOrderOfTheirArrival) {
-    world.settings().Mode = PlayMode::Queue;
-    world.form.Timer5.set_enabled(true);
-    world.run_for(1000);
-    EXPECT_FALSE(world.form.Command19.enabled());
-    for (const char* song : {"c.mid", "a.mid", "b.mid"}) hand_over(world.path(song));
-    world.run_for(1000);
-    EXPECT_EQ(World::names(world.form.List2),
-              (Log{world.path("c.mid"), world.path("a.mid"), world.path("b.mid")}));
-    EXPECT_TRUE(world.form.Command19.enabled());
-    EXPECT_EQ(world.played(), Log{});
 }
 
 TEST_P(HandedOver, DuringThePauseBetweenSongsItWaitsForTheNextSong) {
     world.settings().AutoDelay = 1;
-    world.settings().AutoDelayTime = 5;
     start(PlayMode::Alpha);
     world.run_for(179'000);
-    world.pump.on_pump = [&] {
-        if (world.program.DelayActive) world.hand_over(world.path("c.mid"));
-    };
+    world.pump.arrive_when([&] { return world.program.DelayActive; },
+                           [&] { world.hand_over(world.path("c.mid")); });
     world.run_for(1000);
-    world.pump.on_pump = nullptr;
     EXPECT_EQ(world.form.title(), "Zephyne - Playing b.mid");
     world.run_for(1000);
     EXPECT_EQ(world.form.title(), "Zephyne - Playing c.mid");

@@ -7,39 +7,25 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
-#include <string>
-#include <vector>
 
 namespace zephyne::test {
 namespace {
 
+using Act = std::function<void(World&)>;
+
 struct Scenario {
     std::string name;
-    std::function<void(World&)> prepare;
-    std::function<void(World&)> act;
+    Act prepare;
+    Act act;
 };
 
 struct Intruder {
     std::string name;
-    std::function<void(World&)> arrive;
+    Act arrive;
 };
 
 void take_time(World& world, Milliseconds duration) {
     world.clock.advance_to(world.clock.now() + duration);
-}
-
-void end_song(World& world) {
-    for (SimulatedBackend* backend : {&world.midi, &world.wave, &world.video}) {
-        if (backend->mode() == DeviceMode::playing) backend->finish();
-    }
-}
-
-void open_other_folder(World& world) {
-    const auto& rows = world.form.Dir1.rows();
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        if (rows[row].text == "other") return world.form.Dir1.open(row);
-    }
 }
 
 void find_and_enter(World& world) {
@@ -52,13 +38,9 @@ void click_row(World& world, std::size_t row) {
 }
 
 void start_queue(World& world) {
-    world.settings().Mode = PlayMode::Queue;
     world.program.StartingUp = true;
     world.form.Timer5.set_enabled(true);
-    for (const char* song : {"b.mid", "d.wav"}) world.form.List2.add({world.path(song), {}});
-    world.program.CurrentSongName = world.program.CurrentSongPath = world.path("a.mid");
-    world.engine->player.restart();
-    world.form.Command19.set_visible(true);
+    world.start_queue("a.mid", {"b.mid", "d.wav"});
 }
 
 void open_playlist(World& world) {
@@ -67,113 +49,102 @@ void open_playlist(World& world) {
         {"a.mid|" + folder, "b.mid|" + folder, "c.MID|" + folder, "d.wav|" + folder});
 }
 
-std::function<void(World&)> start_in(std::int32_t mode) {
+Act then(Act first, Act second) {
+    return [first = std::move(first), second = std::move(second)](World& world) {
+        first(world);
+        second(world);
+    };
+}
+
+Act start_in(std::int32_t mode) {
     return [mode](World& world) { world.start(mode); };
 }
 
-std::function<void(World&)> press(TransportKey key) {
+Act by_hand(const std::string& song) {
+    return [song](World& world) {
+        world.open_folder();
+        world.click(song);
+    };
+}
+
+Act press(TransportKey key) {
     return [key](World& world) { world.form.MMControl1.press(key); };
 }
 
-void end_and_go_on(World& world) {
-    end_song(world);
-    world.pump.pump();
+Act hand_over(const std::string& song) {
+    return [song](World& world) {
+        world.hand_over(world.path(song));
+        world.run_for(2000);
+    };
+}
+
+void next(World& world) {
+    world.form.Command9.click();
+}
+void next_in_queue(World& world) {
+    world.form.Command19.click();
+}
+void reset_list(World& world) {
+    world.form.Command6.click();
+}
+void reset_key(World& world) {
+    world.form.SSCommand1.click();
+}
+void open_other_folder(World& world) {
+    world.open_row("other");
+}
+void finish_song(World& world) {
+    world.finish_song();
 }
 
 const std::vector<Scenario>& scenarios() {
+    const Act alpha = start_in(PlayMode::Alpha);
     static const std::vector<Scenario> all = {
-        {"click", start_in(PlayMode::Alpha), [](World& w) { w.click("b.mid"); }},
+        {"click", alpha, [](World& w) { w.click("b.mid"); }},
         {"click in a playlist", open_playlist, [](World& w) { w.click("b.mid"); }},
-        {"next", start_in(PlayMode::Alpha), [](World& w) { w.form.Command9.click(); }},
-        {"next, a song in capitals",
-         [](World& w) {
-             w.start(PlayMode::Alpha);
-             w.form.Command9.click();
-         },
-         [](World& w) { w.form.Command9.click(); }},
+        {"next", alpha, next},
+        {"next, a song in capitals", then(alpha, next), next},
         {"next in a playlist",
-         [](World& w) {
-             open_playlist(w);
-             w.settings().Mode = PlayMode::Alpha;
-             w.engine->order.RefillAndPlayNext();
-         },
-         [](World& w) { w.form.Command9.click(); }},
-        {"next by hand",
-         [](World& w) {
-             w.open_folder();
-             w.click("a.mid");
-         },
-         [](World& w) { w.form.Command9.click(); }},
-        {"reset list", start_in(PlayMode::Random), [](World& w) { w.form.Command6.click(); }},
-        {"other folder", start_in(PlayMode::Alpha), open_other_folder},
-        {"end in Alpha", start_in(PlayMode::Alpha), end_and_go_on},
-        {"end in Manual",
-         [](World& w) {
-             w.open_folder();
-             w.click("c.MID");
-         },
-         end_and_go_on},
-        {"end in a wave song, Manual",
-         [](World& w) {
-             w.open_folder();
-             w.click("d.wav");
-         },
-         end_and_go_on},
+         then(open_playlist,
+              [](World& w) {
+                  w.settings().Mode = PlayMode::Alpha;
+                  w.engine->order.RefillAndPlayNext();
+              }),
+         next},
+        {"next by hand", by_hand("a.mid"), next},
+        {"reset list", start_in(PlayMode::Random), reset_list},
+        {"other folder", alpha, open_other_folder},
+        {"end in Alpha", alpha, finish_song},
+        {"end in Manual", by_hand("c.MID"), finish_song},
+        {"end in a wave song, Manual", by_hand("d.wav"), finish_song},
         {"end with a pause",
          [](World& w) {
              w.settings().AutoDelay = 1;
              w.settings().AutoDelayTime = .3;
              w.start(PlayMode::Alpha);
          },
-         end_and_go_on},
-        {"end with repeat",
-         [](World& w) {
-             w.settings().AutoRepeat = 1;
-             w.start(PlayMode::Alpha);
-         },
-         end_and_go_on},
+         finish_song},
+        {"end with repeat", then([](World& w) { w.settings().AutoRepeat = 1; }, alpha),
+         finish_song},
         {"end of a preview", start_in(PlayMode::Preview), [](World& w) { w.run_for(6500); }},
-        {"end in the queue", start_queue, end_and_go_on},
+        {"end in the queue", start_queue, finish_song},
         {"end of a wave song in the queue",
          [](World& w) {
              start_queue(w);
              w.form.List2.clear();
-             w.form.List2.add({w.path("b.mid"), {}});
-             w.program.CurrentSongName = w.program.CurrentSongPath = w.path("d.wav");
-             w.engine->player.restart();
+             w.start_queue("d.wav", {"b.mid"});
          },
-         end_and_go_on},
-        {"next in the queue", start_queue, [](World& w) { w.form.Command19.click(); }},
-        {"play key",
-         [](World& w) {
-             w.start(PlayMode::Alpha);
-             w.form.MMControl1.press(TransportKey::stop);
-         },
-         press(TransportKey::play)},
-        {"stop key", start_in(PlayMode::Alpha), press(TransportKey::stop)},
-        {"stop key on a wave song",
-         [](World& w) {
-             w.open_folder();
-             w.click("d.wav");
-         },
-         press(TransportKey::stop)},
-        {"reset key", start_in(PlayMode::Alpha), [](World& w) { w.form.SSCommand1.click(); }},
-        {"slider", start_in(PlayMode::Alpha), [](World& w) { w.form.Slider1.step_to(50); }},
-        {"handed over", start_in(PlayMode::Alpha),
-         [](World& w) {
-             w.hand_over(w.path("c.MID"));
-             w.run_for(2000);
-         }},
-        {"handed over to a playlist",
-         [](World& w) {
-             open_playlist(w);
-             w.click("a.mid");
-         },
-         [](World& w) {
-             w.hand_over(w.path("c.MID"));
-             w.run_for(2000);
-         }},
-        {"find", start_in(PlayMode::Alpha), find_and_enter},
+         finish_song},
+        {"next in the queue", start_queue, next_in_queue},
+        {"play key", then(alpha, press(TransportKey::stop)), press(TransportKey::play)},
+        {"stop key", alpha, press(TransportKey::stop)},
+        {"stop key on a wave song", by_hand("d.wav"), press(TransportKey::stop)},
+        {"reset key", alpha, reset_key},
+        {"slider", alpha, [](World& w) { w.form.Slider1.step_to(50); }},
+        {"handed over", alpha, hand_over("c.MID")},
+        {"handed over to a playlist", then(open_playlist, [](World& w) { w.click("a.mid"); }),
+         hand_over("c.MID")},
+        {"find", alpha, find_and_enter},
         {"clock beyond 99 minutes",
          [](World& w) {
              w.midi.lengths["a.mid"] = 6'100'000;
@@ -181,11 +152,7 @@ const std::vector<Scenario>& scenarios() {
              take_time(w, 5'940'100);
          },
          [](World& w) { w.run_for(600); }},
-        {"a song that cannot be opened",
-         [](World& w) {
-             w.midi.broken = {"b.mid"};
-             w.start(PlayMode::Alpha);
-         },
+        {"a song that cannot be opened", then([](World& w) { w.midi.broken = {"b.mid"}; }, alpha),
          [](World& w) { w.click("b.mid"); }},
     };
     return all;
@@ -195,10 +162,10 @@ const std::vector<Intruder>& intruders() {
     static const std::vector<Intruder> all = {
         {"click on the first song", [](World& w) { click_row(w, 0); }},
         {"click on the last song", [](World& w) { click_row(w, 3); }},
-        {"next", [](World& w) { w.form.Command9.click(); }},
-        {"next in the queue", [](World& w) { w.form.Command19.click(); }},
-        {"reset list", [](World& w) { w.form.Command6.click(); }},
-        {"reset key", [](World& w) { w.form.SSCommand1.click(); }},
+        {"next", next},
+        {"next in the queue", next_in_queue},
+        {"reset list", reset_list},
+        {"reset key", reset_key},
         {"play key", press(TransportKey::play)},
         {"pause key", press(TransportKey::pause)},
         {"stop key", press(TransportKey::stop)},
@@ -223,7 +190,7 @@ const std::vector<Intruder>& intruders() {
          }},
         {"new cycle", [](World& w) { w.engine->order.RefillAndPlayNext(); }},
         {"timers", [](World& w) { take_time(w, 600); }},
-        {"end of the song", end_song},
+        {"end of the song", [](World& w) { w.end_song(); }},
         {"a long time", [](World& w) { take_time(w, 200'000); }},
     };
     return all;
@@ -235,8 +202,9 @@ class AnyIntruder : public testing::TestWithParam<PathStyle> {
         auto world = std::make_unique<World>(
             std::initializer_list<std::string>{"a.mid", "b.mid", "c.MID", "d.wav"}, GetParam());
         const std::string other = joined(world->folder, "other", GetParam());
-        world->files.add_file(joined(other, "x.mid", GetParam()));
-        world->files.add_file(joined(other, "y.mid", GetParam()));
+        for (const char* song : {"x.mid", "y.mid"}) {
+            world->files.add_file(joined(other, song, GetParam()));
+        }
         world->form.Dir1.refresh();
         world->settings().AllowWav = 1;
         world->settings().Lowercase = 0;
@@ -248,9 +216,7 @@ class AnyIntruder : public testing::TestWithParam<PathStyle> {
         const bool queue = world.settings().Mode == PlayMode::Queue;
         if (queue) world.program.StartingUp = false;  // as it always is there
         world.run_for(3000);
-        world.expect_flags_at_rest();
-        world.expect_title_tells_the_truth();
-        world.expect_window_unlocked();
+        world.expect_in_one_piece();
         const bool told = std::any_of(world.log.begin(), world.log.end(), [](const auto& line) {
             return line.starts_with("message: ");
         });
@@ -283,12 +249,8 @@ TEST_P(AnyIntruder, LeavesThePlayerWholeInWhicheverPumpItArrives) {
                 SCOPED_TRACE(intruder.name + " in pump " + std::to_string(at) + " of " +
                              scenario.name);
                 auto world = world_for(scenario);
-                int pump = 0;
-                world->pump.on_pump = [&] {
-                    if (++pump == at) intruder.arrive(*world);
-                };
+                world->pump.arrive_in(at, [&] { intruder.arrive(*world); });
                 scenario.act(*world);
-                world->pump.on_pump = nullptr;
                 expect_whole(*world);
             }
         }

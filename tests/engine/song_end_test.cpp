@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 namespace zephyne::test {
 namespace {
 
@@ -14,11 +12,6 @@ class End : public testing::Test {
   protected:
     End() { world.settings().AllowWav = 1; }
 
-    void finish_song() {
-        world.midi.finish();
-        world.pump.pump();
-    }
-
     World world{"A.mid", "B.mid", "C.wav"};
 };
 
@@ -26,12 +19,11 @@ TEST_F(End, InManualModeAFinishedSongWaitsAtItsStart) {
     world.open_folder();
     world.click("A.mid");
     world.happened();
-    finish_song();
+    world.finish_song();
     EXPECT_EQ(world.happened(), (Log{"close A.mid", "open gm_reset.aut", "play gm_reset.aut",
                                      "close gm_reset.aut", "open A.mid", "pause A.mid"}));
     EXPECT_EQ(world.form.title(), "Zephyne");
-    EXPECT_EQ(world.form.Label6.caption(), "");
-    EXPECT_EQ(world.form.Label13.caption(), "");
+    EXPECT_EQ(world.form.Label6.caption() + world.form.Label13.caption(), "");
     EXPECT_EQ(world.form.Slider1.value(), 0);
     EXPECT_EQ(World::shown(world.tray.mnuPause), "Pause (off)");
     EXPECT_EQ(World::shown(world.tray.mnuStop), "Play");
@@ -39,16 +31,12 @@ TEST_F(End, InManualModeAFinishedSongWaitsAtItsStart) {
     EXPECT_EQ(world.happened(), Log{});
     world.form.MMControl1.press(TransportKey::play);
     EXPECT_EQ(world.happened(), Log{"play A.mid"});
-    finish_song();
+    world.finish_song();
     EXPECT_EQ(world.happened().back(), "pause A.mid") << "it ends as before";
-}
 
-TEST_F(End, AWaveSongThatHasEndedWaitsToo) {
-    world.open_folder();
     world.click("C.wav");
     world.happened();
-    world.wave.finish();
-    world.pump.pump();
+    world.finish_song();
     EXPECT_EQ(world.happened(),
               (Log{"wave: close C.wav", "wave: open C.wav", "wave: pause C.wav"}));
 }
@@ -58,11 +46,10 @@ TEST_F(End, ASongDeletedWhileItPlayedIsReportedAtItsEnd) {
     world.click("A.mid");
     world.files.remove(world.path("A.mid"));
     world.happened();
-    finish_song();
+    world.finish_song();
     EXPECT_EQ(world.happened().back(), kGone);
     EXPECT_EQ(world.program.CurrentSongPath, "");
-    EXPECT_FALSE(world.device.is_open());
-    world.expect_window_unlocked();
+    world.expect_in_one_piece();
     world.form.MMControl1.press(TransportKey::stop);
     EXPECT_EQ(world.happened(), Log{});
 }
@@ -73,7 +60,7 @@ TEST_F(End, WithRepeatTheSameSongStartsAgainInEveryMode) {
         world.start(mode);
         world.click("B.mid");
         world.happened();
-        finish_song();
+        world.finish_song();
         EXPECT_EQ(world.happened(), (Log{"close B.mid", "open B.mid", "play B.mid"}));
         EXPECT_EQ(world.form.title(), "Zephyne - Playing B.mid");
     }
@@ -88,13 +75,10 @@ TEST_F(End, ASongThatBreaksWhileItPlaysMakesTheSystemBeep) {
 }
 
 TEST_F(End, TheQueueIsServedWhenItsSongEnds) {
-    world.settings().Mode = PlayMode::Queue;
-    world.form.Command19.set_visible(true);
     world.settings().AutoReset = 0;
-    world.program.CurrentSongName = world.program.CurrentSongPath = world.path("A.mid");
-    world.engine->player.PlayFile();
+    world.start_queue("A.mid");
     world.happened();
-    finish_song();
+    world.finish_song();
     EXPECT_EQ(world.happened(), (Log{"close A.mid", "open A.mid", "pause A.mid"}));
     EXPECT_EQ(world.form.title(), "Zephyne");
 
@@ -102,7 +86,7 @@ TEST_F(End, TheQueueIsServedWhenItsSongEnds) {
         world.form.List2.add({world.path(song), {}});
     }
     world.form.MMControl1.press(TransportKey::play);
-    finish_song();
+    world.finish_song();
     EXPECT_EQ(world.happened(), (Log{"play A.mid", "close A.mid", "open A.mid", "pause A.mid",
                                      "close A.mid", "wave: open C.wav", "wave: play C.wav"}));
     EXPECT_EQ(world.form.title(), "Zephyne - Playing /music/C.wav");
@@ -115,21 +99,17 @@ TEST_F(End, TheQueueIsServedWhenItsSongEnds) {
     EXPECT_EQ(world.played(), Log{}) << "the queue is empty";
     world.files.remove(world.path("B.mid"));
     world.form.List2.add({world.path("C.wav"), {}});
-    finish_song();
+    world.finish_song();
     EXPECT_EQ(world.happened().back(), kGone);
     EXPECT_EQ(world.form.List2.count(), 1U) << "not served this time";
 }
 
 TEST_F(End, NextInTheQueueDuringTheResetSkipsNothing) {
-    world.settings().Mode = PlayMode::Queue;
-    world.form.Command19.set_visible(true);
-    world.program.CurrentSongName = world.program.CurrentSongPath = world.path("A.mid");
-    world.engine->player.PlayFile();
-    for (const char* song : {"C.wav", "B.mid"}) world.form.List2.add({world.path(song), {}});
+    world.start_queue("A.mid", {"C.wav", "B.mid"});
     world.pump.on_pump = [&] {
         if (world.program.SwitchingSong) world.form.Command19.click();
     };
-    finish_song();
+    world.finish_song();
     EXPECT_EQ(world.played(), (Log{"A.mid", "C.wav"}));
     EXPECT_EQ(world.form.List2.count(), 1U);
 }
@@ -139,12 +119,8 @@ TEST_F(End, ASongStartedFromElsewhereDuringTheResetPlaysOn) {
         world.open_folder();
         world.click("A.mid");
         world.settings().Mode = mode;
-        int pumps = 0;
-        world.pump.on_pump = [&] {
-            if (++pumps == 4) world.engine->player.restart();  // the last one of the reset
-        };
-        finish_song();
-        world.pump.on_pump = nullptr;
+        world.pump.arrive_in(4, [&] { world.engine->player.restart(); });  // the reset's last
+        world.finish_song();
         EXPECT_EQ(world.device.Mode(), DeviceMode::playing);
         world.expect_title_tells_the_truth();
     }

@@ -4,10 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace zephyne::test {
 namespace {
@@ -140,7 +136,6 @@ TEST_F(Start, WhatTheUserTouchesDuringTheResetNeitherSkipsNorRepeatsASong) {
         [this] { world.form.Command6.click(); },
     };
     for (const auto& touch : touches) {
-        world.form.File1.set_items({});
         world.device.StopAndClose();
         world.happened();
         world.pump.on_pump = [&] {
@@ -149,15 +144,11 @@ TEST_F(Start, WhatTheUserTouchesDuringTheResetNeitherSkipsNorRepeatsASong) {
         world.start(PlayMode::Alpha);
         world.pump.on_pump = nullptr;
         EXPECT_EQ(world.happened(), usual);
-        world.engine->between.EnableControls(Reselect::no);
     }
 }
 
 TEST_F(Start, ASongStartedFromElsewhereDuringTheResetIsNotStartedTwice) {
-    int pumps = 0;
-    world.pump.on_pump = [&] {
-        if (++pumps == 4) world.engine->player.PlayFile();  // the last one of the reset
-    };
+    world.pump.arrive_in(4, [&] { world.engine->player.PlayFile(); });  // the last of the reset
     world.start(PlayMode::Alpha);
     EXPECT_EQ(world.played(), Log{"A.mid"});
     EXPECT_EQ(world.form.title(), "Zephyne - Playing A.mid");
@@ -174,12 +165,8 @@ TEST_F(Start, ASongCalledForDuringTheResetOfAnotherBeginsAtItsStartAndStays) {
             world.start(PlayMode::Alpha);
             world.run_for(90'200);
             world.happened();
-            int pumps = 0;
-            world.pump.on_pump = [&] {
-                if (++pumps == at) world.engine->order.PlayNextSong();
-            };
+            world.pump.arrive_in(at, [&] { world.engine->order.PlayNextSong(); });
             reset();
-            world.pump.on_pump = nullptr;
             const Log log = world.happened();
             EXPECT_EQ(std::count(log.begin(), log.end(), "play B.mid"), 1);
             EXPECT_EQ(log.back(), "play B.mid");
@@ -202,39 +189,28 @@ TEST_F(Start, NextInManualModeIsNotHalfHeardDuringTheReset) {
 }
 
 TEST_F(Start, ASongThatDoesNotPlayIsReportedAndNothingElseIsTried) {
-    const auto vanish = [&] { world.files.vanish(world.path("B.mid")); };
-    const auto damage = [&] { world.midi.broken = {"B.mid"}; };
-    const auto never_start = [&] { world.midi.mute = {"B.mid"}; };
-    for (const std::function<void()>& spoil :
-         {std::function<void()>(never_start), std::function<void()>(damage),
-          std::function<void()>(vanish)}) {
+    const std::vector<std::function<void()>> faults = {
+        [&] { world.midi.mute = {"B.mid"}; }, [&] { world.midi.broken = {"B.mid"}; },
+        [&] { world.files.vanish(world.path("B.mid")); }};
+    for (const auto& spoil : faults) {
         spoil();
         world.start(PlayMode::Alpha);
         world.happened();
         world.form.Command9.click();
         EXPECT_EQ(world.happened().back(), kDoesNotPlay);
-        EXPECT_EQ(world.form.title(), "Zephyne");
         world.run_for(1'000'000);
         EXPECT_EQ(world.happened(), Log{});
-        world.expect_window_unlocked();
-        world.expect_flags_at_rest();
+        world.expect_in_one_piece();
     }
 }
 
-TEST_F(Start, AFileThatIsNoSongIsPassedOver) {
+TEST_F(Start, AFileThatIsNoSongIsPassedOverAndLeavesNoPlaceToResume) {
     world.open_folder();
     world.form.File1.add({"x.mp3", {}});
+    world.program.ResumePosition = 5000;
     world.click("x.mp3");
     EXPECT_EQ(world.happened(), Log{});
-    world.expect_window_unlocked();
-    world.expect_flags_at_rest();
-}
-
-TEST_F(Start, AVanishedNameOfAnUnplayableKindLeavesNoPlaceToResume) {
-    world.open_folder();
-    world.program.CurrentSongName = world.program.CurrentSongPath = world.path("x.txt");
-    world.program.ResumePosition = 5000;
-    world.engine->player.PlayFile();
+    world.expect_in_one_piece();
     world.click("A.mid");
     EXPECT_EQ(world.played(), Log{"A.mid"}) << "from its start";
 }
@@ -248,8 +224,8 @@ TEST_F(Start, AShortSongThatIsOverBeforeItsStartIsDoneHasPlayed) {
     };
     world.start(PlayMode::Alpha);
     world.run_for(1000);
+    EXPECT_EQ(world.played(), (Log{"A.mid", "B.mid", "C.wav"}));
     for (const std::string& line : world.happened()) EXPECT_NE(line, kDoesNotPlay);
-    EXPECT_EQ(world.open_song(), "C.wav");
 }
 
 }  // namespace

@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <map>
-#include <string>
-#include <vector>
+#include <tuple>
 
 namespace zephyne::test {
 namespace {
@@ -31,12 +29,6 @@ State state_of(const Form1& form) {
     }
     return state;
 }
-
-struct Layout {
-    std::string name;
-    std::function<void(MainWindowLayout&)> apply;
-    State written;
-};
 
 const State kWide = {{"Drive1.width", "6030"}, {"Dir1.width", "6030"},   {"File1.width", "6030"},
                      {"text2.width", "5535"},  {"Text1.visible", "yes"}, {"Label7.visible", "yes"},
@@ -76,26 +68,28 @@ const State kQueue = {
     {"Command23.left", "980"},  {"Command23.top", "3400"}};
 
 TEST(Layout, EachWritesItsRowsAndNothingElse) {
-    const auto narrow = [](MainWindowLayout& l) { l.narrow(); };
-    const auto wide = [](MainWindowLayout& l) { l.wide(); };
-    const auto folder = [](MainWindowLayout& l) { l.folder_based(); };
-    const auto playlist = [](MainWindowLayout& l) { l.playlist_based(); };
-    const auto compact = [](MainWindowLayout& l) { l.compact(); };
+    struct Step {
+        std::string name;
+        void (MainWindowLayout::*apply)();
+        State written;
+    };
+    using Layout = MainWindowLayout;
     ProgramWorld world;
-    for (const Layout& step : std::vector<Layout>{{"wide, as designed", wide, kWide},
-                                                  {"folder, as designed", folder, kFolder},
-                                                  {"narrow", narrow, kNarrow},
-                                                  {"playlist", playlist, kPlaylist},
-                                                  {"wide with a playlist", wide, kWide},
-                                                  {"folder after playlist", folder, kFolder},
-                                                  {"queue", compact, kQueue}}) {
+    for (const Step& step :
+         std::vector<Step>{{"wide, as designed", &Layout::wide, kWide},
+                           {"folder, as designed", &Layout::folder_based, kFolder},
+                           {"narrow", &Layout::narrow, kNarrow},
+                           {"playlist", &Layout::playlist_based, kPlaylist},
+                           {"wide with a playlist", &Layout::wide, kWide},
+                           {"folder after playlist", &Layout::folder_based, kFolder},
+                           {"queue", &Layout::compact, kQueue}}) {
         State expected = state_of(world.form);
         const State design = expected;
         for (const auto& [property, value] : step.written) {
             ASSERT_TRUE(expected.contains(property)) << property;
             expected[property] = value;
         }
-        step.apply(world.layout);
+        (world.layout.*step.apply)();
         EXPECT_EQ(state_of(world.form), expected) << step.name;
         const bool is_design = step.name.ends_with("as designed");
         EXPECT_EQ(expected == design, is_design) << step.name;
@@ -121,35 +115,44 @@ TEST(Layout, TheWindowSnapsBackToItsSizeWhereItStands) {
     EXPECT_TRUE(queue.form.Text1.visible()) << "not the wide layout's business";
 }
 
-TEST(Layout, AMinimisedWindowStaysOnTheTaskbarOrHides) {
-    for (const WindowState state : {WindowState::minimized, WindowState::maximized}) {
-        ProgramWorld hides;
-        hides.load("Mode=Manual\r\nShowBar=0\r\n");
-        hides.form.user_changed_state(state);
-        EXPECT_EQ(hides.window(), "hidden");
+// The window is put away: by its key, or by the window manager, which also knows a third state.
+enum class PutAway { by_key, minimised, maximised };
 
-        ProgramWorld stays;
-        stays.load("Mode=Manual\r\nShowBar=1\r\n");
-        stays.form.user_changed_state(state);
-        EXPECT_TRUE(stays.has_taskbar_button());
-        EXPECT_EQ(stays.form.state(), state);
-        stays.hand_over.on_bring_forward();
-        stays.form.Command11.click();
-        EXPECT_EQ(stays.window(), "minimised with button");
+void put_away(ProgramWorld& world, PutAway how) {
+    if (how == PutAway::by_key) return world.form.Command11.click();
+    world.form.user_changed_state(how == PutAway::minimised ? WindowState::minimized
+                                                            : WindowState::maximized);
+}
+
+TEST(Layout, AWindowThatIsPutAwayLeavesAWayBack) {
+    const std::vector<std::tuple<std::string, bool, std::string>> table = {
+        {"ShowBar=1\r\n", true, "minimised with button"},
+        {"ShowBar=0\r\n", true, "hidden"},
+        {"ShowBar=0\r\n", false, "minimised with button"}};
+    for (const auto& [settings, tray_host, window] : table) {
+        for (const PutAway how : {PutAway::by_key, PutAway::minimised, PutAway::maximised}) {
+            ProgramWorld world;
+            world.has_tray_host = tray_host;
+            world.load("Mode=Alpha\r\n" + settings);
+            put_away(world, how);
+            const bool stays = how == PutAway::maximised && settings == "ShowBar=1\r\n";
+            EXPECT_EQ(world.window(), stays ? "shown with button" : window)
+                << settings << tray_host;
+            EXPECT_EQ(world.device.Mode(), DeviceMode::playing);
+            world.hand_over.on_bring_forward();
+            put_away(world, PutAway::by_key);
+            EXPECT_EQ(world.window(), window) << "as often as you like";
+        }
     }
 }
 
 TEST(Layout, AWindowWhoseTrayIconHasGoneIsNotLost) {
-    for (const bool by_key : {true, false}) {
+    for (const PutAway how : {PutAway::by_key, PutAway::minimised}) {
         ProgramWorld world;
         world.load("Mode=Manual\r\nShowBar=0\r\n");
         world.windows.has_icon = false;  // the desktop's panel has crashed
         world.happened();
-        if (by_key) {
-            world.form.Command11.click();
-        } else {
-            world.form.user_changed_state(WindowState::minimized);
-        }
+        put_away(world, how);
         EXPECT_EQ(world.window(), "minimised with button");
         const Log log = world.happened();
         EXPECT_NE(std::find(log.begin(), log.end(), "window hidden"), log.end())
@@ -161,17 +164,6 @@ TEST(Layout, AWindowWhoseTrayIconHasGoneIsNotLost) {
         world.hand_over.on_bring_forward();
         EXPECT_EQ(world.window(), "shown") << "the icon is enough again";
     }
-}
-
-TEST(Layout, TheTaskbarButtonComesAndGoesWithTheWindowHiddenAndShown) {
-    ProgramWorld world;
-    world.load("Mode=Manual\r\n");
-    world.happened();
-    world.layout.shownbar();
-    EXPECT_EQ(world.happened(), (Log{"window hidden", "window shown with button"}));
-    world.layout.hidenbar();
-    EXPECT_EQ(world.happened(), (Log{"window hidden", "window shown"}));
-    EXPECT_EQ(world.windows.extended_style(world.form), 0x100);
 }
 
 TEST(Layout, AllLedTextsTakeTheColour) {

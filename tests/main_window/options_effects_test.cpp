@@ -1,9 +1,8 @@
 // What OK does beyond the settings, and the life of the window.
+#include "core/window_placing.h"
 #include "tests/main_window/options_world.h"
 
 #include <gtest/gtest.h>
-
-#include <string>
 
 namespace zephyne::test {
 namespace {
@@ -32,7 +31,7 @@ TEST(OptionsEffects, AnotherBaseModeForgetsTheTraysSongs) {
     }
     EXPECT_TRUE(world.form.Image5.visible()) << "the playlist layout";
     EXPECT_TRUE(world.form.File1.empty() && world.form.List1.empty() && world.form.List3.empty());
-    EXPECT_EQ(world.form.Label2.caption() + world.form.Label4.caption(), "");
+    EXPECT_EQ(world.counts(), ", ");
     EXPECT_FALSE(world.device.is_open());
 }
 
@@ -79,8 +78,7 @@ TEST(OptionsEffects, TheOthersReachTheirPlaces) {
         f.Option4_1.click();
         f.Option5_1.click();
     });
-    EXPECT_EQ(world.settings().F2Left, 1234);
-    EXPECT_EQ(world.settings().F2Top, 567);
+    EXPECT_EQ((Corner{world.settings().F2Left, world.settings().F2Top}), (Corner{1234, 567}));
     EXPECT_FALSE(world.form.Timer4.enabled());
     EXPECT_EQ(world.form.Image2.image(), 1);
     EXPECT_EQ(world.form.Command9.tooltip(), "");
@@ -94,8 +92,7 @@ TEST(OptionsEffects, ManualEmptiesTheRoundAndStartsNothing) {
     ASSERT_FALSE(world.form.List1.empty());
     world.ok([](Form2& f) { f.Option3.click(); });
     EXPECT_TRUE(world.form.List1.empty());
-    EXPECT_EQ(world.form.Label2.caption(), "2");
-    EXPECT_EQ(world.form.Label4.caption(), "N/A");
+    EXPECT_EQ(world.counts(), "2, N/A");
     EXPECT_EQ(world.open_song(), "a.mid") << "goes on";
 }
 
@@ -173,8 +170,7 @@ TEST(OptionsLife, SongsGoOnBehindItForAnHour) {
         f.Command1.click();
     });
     EXPECT_EQ(world.settings().AutoRepeat, 1);
-    world.expect_flags_at_rest();
-    world.expect_title_tells_the_truth();
+    world.expect_in_one_piece();
 }
 
 TEST(OptionsLife, ItsKeyIsDeafWhileOkIsAtWork) {

@@ -7,7 +7,7 @@
 #include <fstream>
 #include <iterator>
 #include <set>
-#include <string>
+#include <tuple>
 
 namespace zephyne::test {
 namespace {
@@ -28,34 +28,26 @@ std::set<std::string> set_controls(const Form2& form) {
 
 TEST(OptionsWindow, ShowsTheSettings) {
     using Names = std::set<std::string>;
-    struct Row {
-        std::string settings;
-        Names set;
-        std::string preview;
-        std::string delay;
-    };
-    const std::vector<Row> rows = {
+    // Settings, what is set, and the texts: the preview's seconds and the delay.
+    const std::vector<std::tuple<std::string, Names, std::string>> table = {
         {"ShowTray=0\r\nShowBar=1\r\nPreviewTime=0\r\nLowercase=1\r\n",
          {"Option1", "Option4(2)", "Option5(3)", "Option7", "Option10", "Check10", "Check11",
           "Check12", "Check13", "Check14", "Check15", "Check17"},
-         "5",
-         "2"},
+         "5, 2"},
         {"Mode=Alpha\r\nReverse=1\r\nContinuous=1\r\nAutoReset=1\r\nAutoRepeat=1\r\nAutoHide=1\r\n"
          "AutoNotes=1\r\nAllowWav=1\r\nExtended=0\r\nAnimated=0\r\nConfirmExit=0\r\nShowTips=0\r\n"
          "Beeps=0\r\nPresetPathOnly=1\r\nResetType=2\r\nDisplay=2\r\nPlaylist=1\r\nAutoDelay=1\r\n"
          "AutoDelayTime=2.5\r\nPreviewTime=17\r\nShowTray=1\r\nShowBar=0\r\n",
          {"Option2", "Check7", "Check6", "Check1", "Check2", "Check3", "Check8", "Check9",
           "Option4(1)", "Option5(2)", "Option9", "Option11", "Check4", "Check16"},
-         "17",
-         "2.5"},
+         "17, 2.5"},
     };
-    for (const Row& row : rows) {
-        OptionsWorld world(row.settings);
-        world.open([&](Form2& f) {
-            EXPECT_EQ(set_controls(f), row.set);
-            EXPECT_EQ(f.text2.text(), row.preview);
-            EXPECT_EQ(f.Text1.text(), row.delay);
-            EXPECT_EQ(f.Text1.enabled(), row.set.contains("Check4"));
+    for (const auto& [settings, names, shown] : table) {
+        OptionsWorld world(settings);
+        world.open([&set = names, &texts = shown](Form2& f) {
+            EXPECT_EQ(set_controls(f), set);
+            EXPECT_EQ(f.text2.text() + ", " + f.Text1.text(), texts);
+            EXPECT_EQ(f.Text1.enabled(), set.contains("Check4"));
         });
     }
 }
@@ -80,10 +72,8 @@ TEST(OptionsWindow, LoadingLeavesOnlyTheMarksOfTooltipsTaskbarAndTray) {
 TEST(OptionsWindow, EachPlaybackModeEnablesWhatItNeeds) {
     const auto enabled = [](Form2& f) {
         std::string names;
-        for (const Control* c :
-             {static_cast<Control*>(&f.Check7), static_cast<Control*>(&f.Label3),
-              static_cast<Control*>(&f.text2), static_cast<Control*>(&f.Label2),
-              static_cast<Control*>(&f.Check6), static_cast<Control*>(&f.Label4)}) {
+        for (const Control* c : std::initializer_list<const Control*>{
+                 &f.Check7, &f.Label3, &f.text2, &f.Label2, &f.Check6, &f.Label4}) {
             if (c->usable()) names += c->name() + " ";
         }
         return names;
@@ -148,32 +138,33 @@ TEST(OptionsWindow, TheKillCommandsAskFirstAndDeleteOnlyTheirKind) {
         }
         return names;
     };
+    enum class Kind { notes, volumes };
     struct Row {
+        Kind kind;
         Answer answer;
-        bool notes;
         std::string kept;
-        std::string then;
+        Log then;
     };
     const std::string done = "message: Deletion Complete. [Done.]";
     const std::vector<Row> rows = {
-        {Answer::no, true, "a.mid a.nte B.NTE a.vol nte a.nte.txt ", ""},
-        {Answer::yes, true, "a.mid a.vol nte a.nte.txt ", "notes closed"},
-        {Answer::yes, false, "a.mid a.nte B.NTE nte a.nte.txt ", done},
-    };
+        {Kind::notes, Answer::no, "a.mid a.nte B.NTE a.vol nte a.nte.txt ", {}},
+        {Kind::notes, Answer::yes, "a.mid a.vol nte a.nte.txt ", {"notes closed", done}},
+        {Kind::volumes, Answer::yes, "a.mid a.nte B.NTE nte a.nte.txt ", {done}}};
     for (const Row& row : rows) {
         OptionsWorld world;
         for (const char* name : {"a.nte", "B.NTE", "a.vol", "nte", "a.nte.txt"}) {
             world.files.add_file(world.path(name));
         }
         world.messages.answer = row.answer;
-        world.open([&](Form2& f) { (row.notes ? f.Command5 : f.Command6).click(); });
-        const Log log = world.happened();
+        const bool notes = row.kind == Kind::notes;
+        world.open([&](Form2& f) { (notes ? f.Command5 : f.Command6).click(); });
+        Log log = world.happened();
         EXPECT_TRUE(log.at(0).starts_with(
-            row.notes ? "message: You are about to kill all notes you have entered ('Note...'"
-                      : "message: You are about to kill all volume settings you have saved"));
+            notes ? "message: You are about to kill all notes you have entered ('Note...'"
+                  : "message: You are about to kill all volume settings you have saved"));
         EXPECT_TRUE(log.at(0).ends_with("Are you sure you want to continue? [Please verify...]"));
-        EXPECT_EQ(log.size() > 1 ? log.at(1) : "", row.then);
-        EXPECT_EQ(log.back() == done, row.answer == Answer::yes);
+        log.erase(log.begin());
+        EXPECT_EQ(log, row.then);
         EXPECT_EQ(kept(world), row.kept);
     }
     OptionsWorld elsewhere;

@@ -50,9 +50,9 @@ TEST(FirstCopy, PlaysASongHandedOverWithinASecondAndAHalf) {
     ProgramWorld world({"a.mid", "b.mid"});
     world.load("Mode=Manual\r\n");
     world.hand_over.on_poke("/music/b.mid");
-    EXPECT_EQ(world.played(), std::vector<std::string>()) << "nothing happens at once";
+    EXPECT_EQ(world.played(), Log()) << "nothing happens at once";
     world.run_for(1500);
-    EXPECT_EQ(world.played(), std::vector<std::string>{"b.mid"});
+    EXPECT_EQ(world.played(), Log{"b.mid"});
 }
 
 TEST(QueuePlayer, PlaysTheSongOfTheCommandLineInACompactWindow) {
@@ -85,17 +85,19 @@ TEST(QueuePlayer, IsShownEvenIfTheProgramStartsHidden) {
 TEST(QueuePlayer, CollectsWhatLaterCopiesHandOver) {
     ProgramWorld world({"a.mid", "b.mid", "c.mid"});
     world.load("AutoReset=0\r\n", "/music/a.mid");
+    world.run_for(1000);
+    EXPECT_FALSE(world.form.Command19.enabled()) << "nothing waits";
     for (const char* song : {"/music/c.mid", "/music/gone.mid", "/music/b.mid"}) {
         world.hand_over.on_poke(song);
         world.run_for(1000);
     }
     world.run_for(1000);
     EXPECT_EQ(World::names(world.form.List2),
-              (std::vector<std::string>{"/music/c.mid", "/music/gone.mid", "/music/b.mid"}));
+              (Log{"/music/c.mid", "/music/gone.mid", "/music/b.mid"}));
     EXPECT_TRUE(world.form.Command19.enabled());
     world.form.Command19.click();
     world.form.Command19.click();
-    EXPECT_EQ(world.played(), (std::vector<std::string>{"a.mid", "c.mid", "b.mid"}));
+    EXPECT_EQ(world.played(), (Log{"a.mid", "c.mid", "b.mid"}));
 }
 
 // As when a file manager opens a whole selection, with one copy of the program for each song.
@@ -118,42 +120,33 @@ TEST(FirstCopy, OfSongsThatComeTogetherTheQueuePlayerCollectsAllAndAnyOtherPlays
 }
 
 TEST(QueuePlayer, DoesNotStartWithASongThatCannotBeRead) {
-    struct Row {
-        std::string line;
-        std::string why;
-    };
-    for (const Row& row : std::vector<Row>{{"/music/none.mid", "File not found"},
-                                           {"\"/music/a.mid\"", "Path not found"},
-                                           {"/music/secret.mid", "Permission denied"},
-                                           {"/music/a.mid /music/a.mid", "Path not found"}}) {
+    const std::vector<std::pair<std::string, std::string>> table = {
+        {"/music/none.mid", "File not found"},
+        {"\"/music/a.mid\"", "Path not found"},
+        {"/music/secret.mid", "Permission denied"},
+        {"/music/a.mid /music/a.mid", "Path not found"}};
+    for (const auto& [line, why] : table) {
         ProgramWorld world({"a.mid", "secret.mid"});
         world.files.deny("/music/secret.mid");
-        EXPECT_EQ(world.load("Mode=Manual\r\n", row.line), Started::ended);
-        EXPECT_EQ(world.log, Log{"message: Error on Command Line - " + row.why + ". [Error!]"});
+        EXPECT_EQ(world.load("Mode=Manual\r\n", line), Started::ended);
+        EXPECT_EQ(world.log, Log{"message: Error on Command Line - " + why + ". [Error!]"});
         EXPECT_EQ(world.files.contents(world.settings_path()), "Mode=Manual\r\n");
         EXPECT_EQ(world.window(), "hidden");
         EXPECT_EQ(world.settings().Mode, PlayMode::Manual) << "it never was a queue";
     }
 }
 
-TEST(QueuePlayer, WritesTheSettingsItFound) {
-    ProgramWorld world;
-    world.load("Mode=Preview\r\nShowBar=0\r\nShowTray=1\r\nConfirmExit=0\r\n", "/music/a.mid");
-    world.form.Command2.click();
-    const std::string file = world.files.contents(world.settings_path()).value();
-    EXPECT_NE(file.find("\r\nShowBar=0\r\nShowTray=1\r\n"), std::string::npos);
-    EXPECT_NE(file.find("\r\nMode=Preview\r\n"), std::string::npos);
-}
-
-TEST(QueuePlayer, CanBeQuitWhileItsFirstSongStarts) {
+TEST(QueuePlayer, CanBeQuitWhileItsFirstSongStartsAndLeavesTheSettingsItFound) {
     ProgramWorld world;
     world.midi.broken.insert("a.mid");
     world.messages.while_open = [&] { world.form.request_unload(CloseReason::session_end); };
-    EXPECT_EQ(world.load("Mode=Preview\r\n", "/music/a.mid"), Started::queue);
+    const std::string found = "ShowBar=0\r\nShowTray=1\r\n";
+    EXPECT_EQ(world.load("Mode=Preview\r\n" + found, "/music/a.mid"), Started::queue);
     EXPECT_TRUE(world.program.Ending);
     EXPECT_EQ(world.window(), "hidden");
-    EXPECT_NE(world.files.contents(world.settings_path())->find("\r\nMode=Preview\r\n"),
-              std::string::npos);
+    const std::string written = world.files.contents(world.settings_path()).value();
+    EXPECT_NE(written.find("\r\nMode=Preview\r\n"), std::string::npos);
+    EXPECT_NE(written.find("\r\n" + found), std::string::npos);
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <string>
 
 namespace zephyne::test {
 namespace {
@@ -66,15 +65,12 @@ TEST(ShutDown, AsksFirstAndGoesOnAfterANo) {
     EXPECT_TRUE(world.written());
 }
 
-TEST(ShutDown, AsksNobodyAtTheEndOfTheSession) {
-    Running world;
-    world.form.request_unload(CloseReason::session_end);
-    EXPECT_EQ(world.happened().front(), "notes closed");
-    EXPECT_TRUE(world.written());
-    EXPECT_TRUE(world.program.SessionEnded) << "nor does what goes wrong on the way out";
-}
-
-TEST(ShutDown, TheEndOfTheSessionOverridesAnOpenQuestion) {
+TEST(ShutDown, TheEndOfTheSessionAsksNobodyAndOverridesAnOpenQuestion) {
+    Running session;
+    session.form.request_unload(CloseReason::session_end);
+    EXPECT_EQ(session.happened().front(), "notes closed");
+    EXPECT_TRUE(session.written());
+    EXPECT_TRUE(session.program.SessionEnded) << "nor does what goes wrong on the way out";
     for (const Answer answer : {Answer::yes, Answer::no}) {
         Running world;
         world.messages.answer = answer;
@@ -90,14 +86,12 @@ TEST(ShutDown, TheEndOfTheSessionOverridesAnOpenQuestion) {
     }
 }
 
-TEST(ShutDown, LeavesTheTrayAloneWithoutAnIcon) {
-    Running world("ShowTray=0\r\nConfirmExit=0\r\n");
-    world.form.Command2.click();
-    EXPECT_EQ(world.happened(), (Log{"notes closed", "close a.mid", "help closed, 0 timers", "end",
-                                     "window hidden"}));
-}
+TEST(ShutDown, GoesOnWithoutATrayIconAndWhereTheSettingsCannotBeWritten) {
+    Running bare("ShowTray=0\r\nConfirmExit=0\r\n");
+    bare.form.Command2.click();
+    EXPECT_EQ(bare.happened(), (Log{"notes closed", "close a.mid", "help closed, 0 timers", "end",
+                                    "window hidden"}));
 
-TEST(ShutDown, GoesOnWhenTheSettingsCannotBeWritten) {
     Running world("ConfirmExit=0\r\n");
     world.files.deny_writing(world.settings_path());
     world.form.Command2.click();
@@ -110,15 +104,9 @@ TEST(ShutDown, GoesOnWhenTheSettingsCannotBeWritten) {
 TEST(ShutDown, WorksDuringThePauseBetweenSongs) {
     Running world("AutoDelay=1\r\nAutoDelayTime=30\r\nConfirmExit=0\r\n");
     world.midi.lengths["a.mid"] = 180'000;
-    bool quit = false;
-    world.pump.on_pump = [&] {
-        if (!world.program.DelayActive || quit) return;
-        quit = true;
-        EXPECT_EQ(world.form.title(), "Delaying 30 Second(s)...");
-        world.form.Command2.click();
-    };
+    world.pump.arrive_when([&] { return world.program.DelayActive; },
+                           [&] { world.form.Command2.click(); });
     world.run_for(180'000);
-    EXPECT_TRUE(quit);
     const Log log = world.happened();
     EXPECT_EQ(std::count(log.begin(), log.end(), "end"), 1);
     EXPECT_EQ(std::count(log.begin(), log.end(), "play a.mid"), 0) << "no song starts any more";

@@ -1,9 +1,10 @@
+#include "core/window_placing.h"
 #include "tests/support/program_world.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <vector>
+#include <tuple>
 
 namespace zephyne::test {
 namespace {
@@ -28,22 +29,15 @@ TEST(StartUp, GoesFromTheTrayIconToTheFirstSongInThisOrder) {
 }
 
 TEST(StartUp, OnlyAFolderInRandomAlphaOrPreviewModePlaysByItself) {
-    struct Row {
-        std::string settings;
-        Log played;
-        std::size_t listed;
-    };
-    for (const Row& row : std::vector<Row>{{"Mode=Random", {"a.mid"}, 2},
-                                           {"Mode=Alpha", {"a.mid"}, 2},
-                                           {"Mode=Alpha\r\nReverse=1", {"b.mid"}, 2},
-                                           {"Mode=Preview", {"a.mid"}, 2},
-                                           {"Mode=Manual", {}, 2},
-                                           {"Mode=Random\r\nPlaylist=1", {}, 0},
-                                           {"Mode=Manual\r\nPlaylist=1", {}, 0}}) {
+    const std::vector<std::tuple<std::string, Log, std::size_t>> table = {
+        {"Mode=Random", {"a.mid"}, 2},        {"Mode=Alpha\r\nReverse=1", {"b.mid"}, 2},
+        {"Mode=Preview", {"a.mid"}, 2},       {"Mode=Manual", {}, 2},
+        {"Mode=Random\r\nPlaylist=1", {}, 0}, {"Mode=Manual\r\nPlaylist=1", {}, 0}};
+    for (const auto& [settings, played, listed] : table) {
         ProgramWorld world({"a.mid", "b.mid"});
-        world.load(row.settings);
-        EXPECT_EQ(world.played(), row.played) << row.settings;
-        EXPECT_EQ(world.form.File1.count(), row.listed) << row.settings;
+        world.load(settings);
+        EXPECT_EQ(world.played(), played) << settings;
+        EXPECT_EQ(world.form.File1.count(), listed) << settings;
         world.expect_flags_at_rest();
     }
 }
@@ -62,45 +56,38 @@ TEST(StartUp, APlaylistStartsWithItsOwnLayoutAndWithoutTrayCommands) {
 }
 
 TEST(StartUp, TheWindowIsNeverLostWhateverIsHidden) {
-    struct Row {
-        std::string settings;
-        bool tray_host;
-        std::string window;
-    };
-    for (const Row& row :
-         std::vector<Row>{{"AutoHide=0\r\nShowBar=0\r\nShowTray=1", true, "shown"},
-                          {"AutoHide=0\r\nShowBar=0\r\nShowTray=1", false, "shown with button"},
-                          {"AutoHide=0\r\nShowBar=0\r\nShowTray=0", true, "shown with button"},
-                          {"AutoHide=0\r\nShowBar=1\r\nShowTray=1", true, "shown with button"},
-                          {"AutoHide=1\r\nShowBar=0\r\nShowTray=1", true, "hidden"},
-                          {"AutoHide=1\r\nShowBar=0\r\nShowTray=1", false, "minimised with button"},
-                          {"AutoHide=1\r\nShowBar=0\r\nShowTray=0", true, "minimised with button"},
-                          {"AutoHide=1\r\nShowBar=1\r\nShowTray=1", true, "shown with button"},
-                          {"AutoHide=1\r\nShowBar=1\r\nShowTray=0", false, "shown with button"}}) {
+    const std::vector<std::tuple<std::string, bool, std::string>> table = {
+        {"AutoHide=0\r\nShowBar=0\r\nShowTray=1", true, "shown"},
+        {"AutoHide=0\r\nShowBar=0\r\nShowTray=1", false, "shown with button"},
+        {"AutoHide=0\r\nShowBar=0\r\nShowTray=0", true, "shown with button"},
+        {"AutoHide=0\r\nShowBar=1\r\nShowTray=1", true, "shown with button"},
+        {"AutoHide=1\r\nShowBar=0\r\nShowTray=1", true, "hidden"},
+        {"AutoHide=1\r\nShowBar=0\r\nShowTray=1", false, "minimised with button"},
+        {"AutoHide=1\r\nShowBar=0\r\nShowTray=0", true, "minimised with button"},
+        {"AutoHide=1\r\nShowBar=1\r\nShowTray=1", true, "shown with button"},
+        {"AutoHide=1\r\nShowBar=1\r\nShowTray=0", false, "shown with button"}};
+    for (const auto& [settings, tray_host, window] : table) {
         ProgramWorld world;
-        world.has_tray_host = row.tray_host;
-        world.load(row.settings);
-        EXPECT_EQ(world.window(), row.window) << row.settings << " " << row.tray_host;
+        world.has_tray_host = tray_host;
+        world.load(settings);
+        EXPECT_EQ(world.window(), window) << settings << " " << tray_host;
         const bool tip = std::count(world.log.begin(), world.log.end(), "tip of the day") == 1;
-        EXPECT_EQ(tip, row.settings.starts_with("AutoHide=0")) << row.settings;
+        EXPECT_EQ(tip, settings.starts_with("AutoHide=0")) << settings;
     }
 }
 
 TEST(StartUp, TheWindowComesBackToItsPlaceOrToTheMiddle) {
-    struct Row {
-        std::string settings;
-        Place place;
-    };
-    for (const Row& row : std::vector<Row>{
-             {"Left=-300\r\nTop=450", {-300, 450, 9000, 6510}},
-             {"Left=300\r\nTop=-450", {300, 0, 9000, 6510}},  // its title bar can be reached
-             {"Left=0\r\nTop=450", {5100, 2745, 9000, 6510}},
-             {"Left=300\r\nTop=0", {5100, 2745, 9000, 6510}},
-             {"Extended=0", {6350, 2745, 6500, 6510}},
-             {"Left=300\r\nTop=450\r\nExtended=0\r\nShowBar=1", {300, 450, 6500, 6510}}}) {
+    const std::vector<std::pair<std::string, Place>> table = {
+        {"Left=-300\r\nTop=450", {-300, 450, 9000, 6510}},
+        {"Left=300\r\nTop=-450", {300, 0, 9000, 6510}},  // its title bar can be reached
+        {"Left=0\r\nTop=450", {5100, 2745, 9000, 6510}},
+        {"Left=300\r\nTop=0", {5100, 2745, 9000, 6510}},
+        {"Extended=0", {6350, 2745, 6500, 6510}},
+        {"Left=300\r\nTop=450\r\nExtended=0\r\nShowBar=1", {300, 450, 6500, 6510}}};
+    for (const auto& [settings, place] : table) {
         ProgramWorld world;
-        world.load(row.settings + "\r\n");
-        EXPECT_EQ(world.form.place(), row.place) << row.settings;
+        world.load(settings + "\r\n");
+        EXPECT_EQ(world.form.place(), place) << settings;
     }
 }
 
@@ -113,27 +100,25 @@ TEST(StartUp, TheSettingsAreShownInTheWindow) {
     EXPECT_EQ(world.form.Tens.image(), digit_image(2, 0));
 }
 
-TEST(StartUp, TheFolderShownLastIsShownAgain) {
+TEST(StartUp, TheFolderShownLastIsShownAgainAndOneThatHasGoneIsPassedOverInSilence) {
     ProgramWorld world({"a.mid"});
     world.files.add_volume("/", "System");
     world.files.add_volume("/stick", "Stick");
     world.files.add_file("/stick/rags/maple.mid");
     world.load("LastDir=/stick/rags\r\n");
     EXPECT_EQ(world.form.Drive1.drive().name, "Stick");
-    EXPECT_EQ(world.played(), std::vector<std::string>{"maple.mid"}) << "and only that";
+    EXPECT_EQ(world.played(), Log{"maple.mid"}) << "and only that";
     EXPECT_EQ(world.program.StartFolder, "/music");
-}
 
-TEST(StartUp, AFolderThatHasGoneIsPassedOverInSilence) {
-    for (const char* last : {"/stick/rags", "/music/gone"}) {
-        ProgramWorld world({"a.mid"});
-        world.files.add_volume("/", "System");
-        world.files.add_volume("/stick", "Stick");
-        world.files.deny("/stick");
-        world.load("LastDir=" + std::string(last));
-        EXPECT_EQ(world.form.Drive1.drive().name, "System") << last;
-        EXPECT_EQ(world.form.Dir1.path(), "/music") << last;
-        EXPECT_EQ(world.happened().front(), "tray icon") << "no message before the window";
+    for (const char* gone : {"/stick/rags", "/music/gone"}) {
+        ProgramWorld other({"a.mid"});
+        other.files.add_volume("/", "System");
+        other.files.add_volume("/stick", "Stick");
+        other.files.deny("/stick");
+        other.load("LastDir=" + std::string(gone));
+        EXPECT_EQ(other.form.Drive1.drive().name, "System") << gone;
+        EXPECT_EQ(other.form.Dir1.path(), "/music") << gone;
+        EXPECT_EQ(other.happened().front(), "tray icon") << "no message before the window";
     }
 }
 
@@ -166,31 +151,29 @@ TEST(FirstStart, PlaysTheDemoSongsWhereTheFolderHasNone) {
         world.files.add_file(std::string(home) + "/songs/demo.mid");
         world.load_without_settings();
         EXPECT_EQ(world.form.Dir1.path(), std::string(home) + "/songs");
-        EXPECT_EQ(world.played(), std::vector<std::string>{"demo.mid"}) << "once";
+        EXPECT_EQ(world.played(), Log{"demo.mid"}) << "once";
         EXPECT_EQ(world.form.Label10.caption(), "Random Playback");
         world.expect_flags_at_rest();
     }
 }
 
-TEST(FirstStart, StaysInAFolderThatHasSongs) {
+TEST(FirstStart, StaysInAFolderThatHasSongsAndWhereNoDemoSongsAre) {
     ProgramWorld world({"own.mid"});
     world.files.add_file("/zephyne/songs/demo.mid");
     world.load_without_settings();
-    EXPECT_EQ(world.played(), std::vector<std::string>{"own.mid"});
+    EXPECT_EQ(world.played(), Log{"own.mid"});
 
     ProgramWorld bare({});
     bare.load_without_settings();
     EXPECT_EQ(bare.form.Dir1.path(), "/music") << "no demo songs are installed";
     EXPECT_EQ(bare.form.title(), "Zephyne");
-}
 
-TEST(FirstStart, IsNotEveryStartWithoutReadableSettings) {
-    ProgramWorld world({});
-    world.files.add_file("/zephyne/songs/demo.mid");
-    world.files.add_file(world.settings_path());
-    world.files.deny(world.settings_path());
-    world.load_without_settings();
-    EXPECT_EQ(world.form.Dir1.path(), "/music");
+    ProgramWorld unreadable({});
+    unreadable.files.add_file("/zephyne/songs/demo.mid");
+    unreadable.files.add_file(unreadable.settings_path());
+    unreadable.files.deny(unreadable.settings_path());
+    unreadable.load_without_settings();
+    EXPECT_EQ(unreadable.form.Dir1.path(), "/music") << "it is not the first start";
 }
 
 TEST(Activation, KeepsTheWindowsPlaceExceptInTheQueuePlayer) {
@@ -199,15 +182,13 @@ TEST(Activation, KeepsTheWindowsPlaceExceptInTheQueuePlayer) {
     world.form.user_moved(120, 345);
     EXPECT_EQ(world.settings().Left, 0) << "not before it is active again";
     world.form.user_activated();
-    EXPECT_EQ(world.settings().Left, 120);
-    EXPECT_EQ(world.settings().Top, 345);
+    EXPECT_EQ((Corner{world.settings().Left, world.settings().Top}), (Corner{120, 345}));
 
     ProgramWorld queue;
     queue.load("Left=7\r\nTop=8\r\n", "/music/a.mid");
     queue.form.user_moved(120, 345);
     queue.form.user_activated();
-    EXPECT_EQ(queue.settings().Left, 7);
-    EXPECT_EQ(queue.settings().Top, 8);
+    EXPECT_EQ((Corner{queue.settings().Left, queue.settings().Top}), (Corner{7, 8}));
 }
 
 }  // namespace

@@ -1,99 +1,10 @@
 #include "tests/support/memory_file_system.h"
 
-#include "core/text/letter_case.h"
+#include "tests/support/memory_file_tree.h"
 
-#include <algorithm>
 #include <stdexcept>
-#include <unordered_map>
-#include <utility>
 
 namespace zephyne {
-namespace {
-
-enum class Fault { none, denied, list_denied, write_denied, held_open, vanished };
-
-tl::unexpected<FileError> error(FileErrorKind kind, std::string description) {
-    return tl::unexpected(FileError{kind, std::move(description)});
-}
-tl::unexpected<FileError> not_found(std::string description = "File not found") {
-    return error(FileErrorKind::not_found, std::move(description));
-}
-tl::unexpected<FileError> permission_denied() {
-    return error(FileErrorKind::permission_denied, "Permission denied");
-}
-
-}  // namespace
-
-struct MemoryFileSystem::Node : std::enable_shared_from_this<MemoryFileSystem::Node> {
-    std::string name;
-    bool is_folder = false;
-    FileKind kind = FileKind::ordinary;
-    Visibility visibility = Visibility::shown;
-    Fault fault = Fault::none;
-    std::string contents;
-    std::vector<NodePtr> members;  // in the order in which they were added
-    std::unordered_map<std::string, Node*> by_name;
-    bool is_mount = false;
-    const Node* view_of = nullptr;  // the folder that this one shows
-
-    const Node& real() const { return view_of ? *view_of : *this; }
-
-    Node* member(const std::string& member_name) const {
-        if (view_of) return view_of->member(member_name);
-        const auto found = by_name.find(member_name);
-        return found == by_name.end() ? nullptr : found->second;
-    }
-
-    // The member of that name, or the only one whose name differs from it in case alone.
-    Node* member_in_any_case(const std::string& member_name) const {
-        if (Node* found = member(member_name)) return found;
-        Node* match = nullptr;
-        for (const NodePtr& candidate : real().members) {
-            if (!equal_ignoring_case(candidate->name, member_name)) continue;
-            if (match) return nullptr;
-            match = candidate.get();
-        }
-        return match;
-    }
-
-    Node& add(std::string member_name) {
-        return adopt(std::make_shared<Node>(), std::move(member_name));
-    }
-
-    Node& adopt(const NodePtr& node, std::string member_name) {
-        node->name = std::move(member_name);
-        by_name[node->name] = node.get();
-        members.push_back(node);
-        return *node;
-    }
-
-    void drop(const Node& gone) {
-        by_name.erase(gone.name);
-        std::erase_if(members, [&](const NodePtr& member) { return member.get() == &gone; });
-    }
-};
-
-class MemoryFileSystem::Output final : public OutputFile {
-  public:
-    Output(MemoryFileSystem& files, NodePtr node) : files_(files), node_(std::move(node)) {}
-
-    FileResult<void> write(std::string_view bytes) override {
-        const auto written = files_.write_fault();
-        if (written) node_->contents.append(bytes);
-        return written;
-    }
-
-    FileResult<void> close() override {
-        if (std::exchange(files_.close_fails_, false)) {
-            return error(FileErrorKind::other, "Disk full");
-        }
-        return {};
-    }
-
-  private:
-    MemoryFileSystem& files_;
-    NodePtr node_;  // a removed file can still be written to, as on a real disk
-};
 
 class MemoryFileSystem::Reader final : public FolderReader {
   public:
@@ -104,7 +15,7 @@ class MemoryFileSystem::Reader final : public FolderReader {
             member_ = folder_->members[next_++];
             if (member_->visibility == Visibility::hidden) continue;
             if (member_->is_folder) return FolderMember{MemberKind::folder, member_->name};
-            if (member_->kind == FileKind::ordinary) return FolderMember{{}, member_->name};
+            if (member_->is_ordinary_file()) return FolderMember{{}, member_->name};
         }
         return std::nullopt;
     }
@@ -128,6 +39,7 @@ MemoryFileSystem::~MemoryFileSystem() = default;
 
 // The names on the way to a path, the drive first; "" stands for the root of the posix style.
 std::vector<std::string> MemoryFileSystem::parts_of(std::string_view path) const {
+    if (path.empty()) return {};
     const char divider = separator(style_);
     const bool has_drive = style_ == PathStyle::windows && path.size() > 1 && path[1] == ':';
     std::vector<std::string> parts;
@@ -218,17 +130,11 @@ void MemoryFileSystem::add_second_view(std::string_view path, std::string_view o
 void MemoryFileSystem::remove(std::string_view path) {
     std::erase_if(volumes_, [&](const Volume& volume) { return volume.root == path; });
     const Node& gone = must_exist(path);
-    auto parts = parts_of(path);
-    parts.pop_back();
-    folder_for(parts).drop(gone);
+    gone.folder->drop(gone);
 }
 
-FileResult<void> MemoryFileSystem::set_current_folder(const std::string& folder) {
-    const auto real = resolve(folder);
-    if (!real) return tl::unexpected(real.error());
-    if (!(*find(*real))->is_folder) return not_found("Path not found");
-    current_folder_ = *real;
-    return {};
+void MemoryFileSystem::set_fault(std::string_view path, Fault fault) {
+    must_exist(path).fault = fault;
 }
 
 bool MemoryFileSystem::exists(std::string_view path) const {
@@ -241,51 +147,50 @@ std::optional<std::string> MemoryFileSystem::contents(std::string_view path) con
     return node->contents;
 }
 
-void MemoryFileSystem::deny(std::string_view path) {
-    must_exist(path).fault = Fault::denied;
-}
-void MemoryFileSystem::deny_listing(std::string_view path) {
-    must_exist(path).fault = Fault::list_denied;
-}
-void MemoryFileSystem::deny_writing(std::string_view path) {
-    must_exist(path).fault = Fault::write_denied;
-}
-void MemoryFileSystem::hold_open(std::string_view path) {
-    must_exist(path).fault = Fault::held_open;
-}
-void MemoryFileSystem::vanish(std::string_view path) {
-    must_exist(path).fault = Fault::vanished;
-}
-void MemoryFileSystem::allow(std::string_view path) {
-    must_exist(path).fault = Fault::none;
-}
-void MemoryFileSystem::fail_write_number(int number) {
-    writes_until_failure_ = number;
-}
-void MemoryFileSystem::fail_next_close() {
-    close_fails_ = true;
-}
-
 std::vector<Volume> MemoryFileSystem::volumes() const {
     if (!volumes_.empty()) return volumes_;
     const std::string drive = parts_of(current_folder_).front();
     return {{path_of({drive}), style_ == PathStyle::posix ? "System" : drive, ""}};
 }
 
-FileResult<MemoryFileSystem::Node*> MemoryFileSystem::find(const std::string& path) const {
-    Node* node = top_.get();
-    const auto parts = path.empty() ? std::vector<std::string>{} : parts_of(path);
-    if (parts.empty()) return not_found();
+// What is found on the way to a path, the drive first and what the path names last.
+FileResult<std::vector<MemoryFileSystem::Node*>> MemoryFileSystem::walk(
+    const std::string& path) const {
+    const auto not_found = file_error(FileErrorKind::not_found, "File not found");
+    const auto parts = parts_of(path);
+    if (parts.empty()) return not_found;
+    std::vector<Node*> way;
+    const Node* folder = top_.get();
     for (const std::string& part : parts) {
-        if (!node->is_folder || node->fault == Fault::vanished) return not_found("Path not found");
-        if (node->fault == Fault::denied) return permission_denied();
-        const bool is_last = &part == &parts.back();
-        node = node->member_in_any_case(part);
-        if (!node) return not_found(is_last ? "File not found" : "Path not found");
+        if (!folder->is_folder || folder->fault == Fault::vanished) return path_not_found();
+        if (folder->fault == Fault::denied) return permission_denied();
+        Node* next = folder->member_in_any_case(part);
+        if (!next) return &part == &parts.back() ? not_found : path_not_found();
+        way.push_back(next);
+        folder = next;
     }
-    if (node->fault == Fault::vanished) return not_found();
-    if (!node->is_folder && node->kind == FileKind::dangling_link) return not_found();
-    return node;
+    if (folder->fault == Fault::vanished || folder->kind == FileKind::dangling_link) {
+        return not_found;
+    }
+    return way;
+}
+
+FileResult<MemoryFileSystem::Node*> MemoryFileSystem::find(const std::string& path) const {
+    return walk(path).map([](const std::vector<Node*>& way) { return way.back(); });
+}
+
+FileResult<MemoryFileSystem::Node*> MemoryFileSystem::find_folder(const std::string& path) const {
+    const auto found = find(path);
+    if (!found && found.error().kind == FileErrorKind::permission_denied) return found;
+    if (!found || !(*found)->is_folder) return path_not_found();
+    return found;
+}
+
+FileResult<void> MemoryFileSystem::set_current_folder(const std::string& folder) {
+    const auto found = find_folder(folder);
+    if (!found) return tl::unexpected(found.error());
+    current_folder_ = *resolve(folder);
+    return {};
 }
 
 FileResult<std::vector<std::string>> MemoryFileSystem::list(const std::string& folder,
@@ -299,51 +204,32 @@ FileResult<std::vector<std::string>> MemoryFileSystem::list(const std::string& f
     return names;
 }
 
-FileResult<std::vector<std::string>> MemoryFileSystem::list_files(const std::string& folder) const {
-    return list(folder, MemberKind::file);
-}
-
-FileResult<std::vector<std::string>> MemoryFileSystem::list_folders(
-    const std::string& folder) const {
-    return list(folder, MemberKind::folder);
-}
-
 FileResult<FolderIdentity> MemoryFileSystem::identify_folder(const std::string& folder) const {
-    const auto found = find(folder);
-    if (!found) return tl::unexpected(found.error());
-    if (!(*found)->is_folder) return not_found("Path not found");
+    if (const auto found = find_folder(folder); !found) return tl::unexpected(found.error());
     const auto as_number = [](const Node* node) {
         return static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(node));
     };
-    const Node* node = top_.get();
-    const Node* volume = nullptr;
-    for (const std::string& part : parts_of(folder)) {
-        node = node->member_in_any_case(part);
-        if (!volume || node->is_mount) volume = node;
-    }
-    return FolderIdentity{as_number(volume), as_number(&node->real())};
+    const auto way = *walk(folder);
+    const Node* volume = way.front();
+    for (const Node* node : way) volume = node->is_mount ? node : volume;
+    return FolderIdentity{as_number(volume), as_number(&way.back()->real())};
 }
 
 FileResult<std::unique_ptr<FolderReader>> MemoryFileSystem::read_folder(
     const std::string& folder) const {
-    const auto node = find(folder);
+    const auto node = find_folder(folder);
     if (!node) return tl::unexpected(node.error());
-    if (!(*node)->is_folder) return not_found("Path not found");
     const Fault fault = (*node)->fault;
     if (fault == Fault::denied || fault == Fault::list_denied) return permission_denied();
     return std::make_unique<Reader>((*node)->real().shared_from_this());
 }
 
 FileResult<std::string> MemoryFileSystem::resolve(const std::string& path) const {
-    const auto found = find(path);
-    if (!found) return tl::unexpected(found.error());
-    auto parts = parts_of(path);
-    const Node* node = top_.get();
-    for (std::string& part : parts) {
-        node = node->member_in_any_case(part);
-        part = node->name;
-    }
-    return path_of(parts);
+    return walk(path).map([this](const std::vector<Node*>& way) {
+        std::vector<std::string> names;
+        for (const Node* node : way) names.push_back(node->name);
+        return path_of(names);
+    });
 }
 
 FileResult<MemoryFileSystem::Node*> MemoryFileSystem::open_for_reading(
@@ -351,163 +237,28 @@ FileResult<MemoryFileSystem::Node*> MemoryFileSystem::open_for_reading(
     ++open_count_;
     const auto node = find(path);
     if (!node) return node;
-    if ((*node)->is_folder || (*node)->kind != FileKind::ordinary) {
-        return error(FileErrorKind::other, "Not an ordinary file");
+    if (!(*node)->is_ordinary_file()) {
+        return file_error(FileErrorKind::other, "Not an ordinary file");
     }
     if ((*node)->fault == Fault::denied) return permission_denied();
     if ((*node)->fault == Fault::held_open) {
-        return error(FileErrorKind::already_open, "File already open");
+        return file_error(FileErrorKind::already_open, "File already open");
     }
     return node;
 }
 
 FileResult<void> MemoryFileSystem::check_readable(const std::string& path) const {
-    const auto node = open_for_reading(path);
-    if (!node) return tl::unexpected(node.error());
-    return {};
+    return open_for_reading(path).map([](const Node*) {});
 }
 
 FileResult<std::uint64_t> MemoryFileSystem::file_length(const std::string& path) const {
-    const auto node = open_for_reading(path);
-    if (!node) return tl::unexpected(node.error());
-    return (*node)->contents.size();
+    return open_for_reading(path).map([](const Node* file) { return file->contents.size(); });
 }
 
 FileResult<std::string> MemoryFileSystem::read_file(const std::string& path,
                                                     std::size_t limit) const {
-    const auto node = open_for_reading(path);
-    if (!node) return tl::unexpected(node.error());
-    return (*node)->contents.substr(0, limit);
-}
-
-FileResult<std::unique_ptr<OutputFile>> MemoryFileSystem::create_file(const std::string& path) {
-    auto parts = path.empty() ? std::vector<std::string>{} : parts_of(path);
-    if (parts.size() < 2) return not_found("Path not found");
-    const std::string name = parts.back();
-    parts.pop_back();
-    const auto folder = find(path_of(parts));
-    if (!folder && folder.error().kind == FileErrorKind::permission_denied)
-        return permission_denied();
-    if (!folder || !(*folder)->is_folder) return not_found("Path not found");
-    if ((*folder)->fault == Fault::denied) return permission_denied();
-
-    Node* file = (*folder)->member_in_any_case(name);
-    if (file) {
-        const auto opened = open_for_reading(path_of(parts) + separator(style_) + name);
-        if (file->fault == Fault::write_denied) return permission_denied();
-        if (!opened) return tl::unexpected(opened.error());
-        file->contents.clear();
-    } else {
-        ++open_count_;
-        if ((*folder)->fault == Fault::write_denied) return permission_denied();
-        file = &(*folder)->add(name);
-    }
-    return std::make_unique<Output>(*this, file->shared_from_this());
-}
-
-FileResult<void> MemoryFileSystem::write_fault() {
-    if (writes_until_failure_ > 0 && --writes_until_failure_ == 0) {
-        return error(FileErrorKind::other, "Disk full");
-    }
-    return {};
-}
-
-FileResult<void> MemoryFileSystem::replace_file(const std::string& path, std::string_view bytes) {
-    auto parts = path.empty() ? std::vector<std::string>{} : parts_of(path);
-    if (parts.size() < 2) return not_found("Path not found");
-    const std::string name = parts.back();
-    parts.pop_back();
-    const auto folder = find(path_of(parts));
-    if (!folder) return tl::unexpected(folder.error());
-    Node* file = (*folder)->member(name);
-    for (const Node* node : {static_cast<const Node*>(*folder), static_cast<const Node*>(file)}) {
-        if (node && (node->fault == Fault::denied || node->fault == Fault::write_denied)) {
-            return permission_denied();
-        }
-    }
-    if (file && (file->is_folder || file->kind != FileKind::ordinary)) {
-        return error(FileErrorKind::other, "Not an ordinary file");
-    }
-    if (auto written = write_fault(); !written) return written;
-    if (std::exchange(close_fails_, false)) return error(FileErrorKind::other, "Disk full");
-    if (!file) file = &(*folder)->add(name);
-    file->contents = bytes;
-    return {};
-}
-
-MemoryFileSystem::Node& MemoryFileSystem::folder_of(const Node& member) const {
-    const auto holds = [&](const auto& self, Node& folder) -> Node* {
-        for (const NodePtr& candidate : folder.members) {
-            if (candidate.get() == &member) return &folder;
-            if (Node* found = self(self, *candidate)) return found;
-        }
-        return nullptr;
-    };
-    return *holds(holds, *top_);
-}
-
-FileResult<void> MemoryFileSystem::remove_file(const std::string& path) {
-    const auto file = open_for_reading(path);
-    if (!file) return tl::unexpected(file.error());
-    Node& folder = folder_of(**file);
-    if ((*file)->fault == Fault::write_denied || folder.fault == Fault::write_denied) {
-        return permission_denied();
-    }
-    folder.drop(**file);
-    return {};
-}
-
-// Puts a file where it is to be, under the name as written.
-FileResult<void> MemoryFileSystem::give_place(Node& file, const std::string& to) {
-    auto parts = to.empty() ? std::vector<std::string>{} : parts_of(to);
-    if (parts.size() < 2) return not_found("Path not found");
-    const std::string name = parts.back();
-    parts.pop_back();
-    const auto target = find(path_of(parts));
-    if (!target || !(*target)->is_folder) {
-        return target ? not_found("Path not found") : tl::unexpected(target.error());
-    }
-    Node& source = folder_of(file);
-    for (const Node* folder : {&source, *target}) {
-        if (folder->fault == Fault::denied || folder->fault == Fault::write_denied) {
-            return permission_denied();
-        }
-    }
-    const Node* there = (*target)->member_in_any_case(name);
-    if (there && there != &file) return error(FileErrorKind::already_exists, "File already exists");
-    const NodePtr kept = file.shared_from_this();
-    source.drop(file);
-    (*target)->adopt(kept, name);
-    return {};
-}
-
-FileResult<void> MemoryFileSystem::rename_file(const std::string& from, const std::string& to) {
-    const auto file = open_for_reading(from);
-    if (!file) return tl::unexpected(file.error());
-    return give_place(**file, to);
-}
-
-// The volume whose root is the longest beginning of the path.
-std::string MemoryFileSystem::volume_of(const std::string& path) const {
-    std::string longest;
-    for (const Volume& volume : volumes()) {
-        if (path.starts_with(volume.root) && volume.root.size() > longest.size()) {
-            longest = volume.root;
-        }
-    }
-    return longest;
-}
-
-FileResult<void> MemoryFileSystem::move_file(const std::string& from, const std::string& to) {
-    const auto file = open_for_reading(from);
-    if (!file) return tl::unexpected(file.error());
-    const auto there = find(to);
-    if (there && *there == *file) return permission_denied();
-    if (volume_of(from) != volume_of(to)) {
-        if (auto copied = write_fault(); !copied) return copied;
-        if ((*file)->fault == Fault::write_denied) return permission_denied();
-    }
-    return give_place(**file, to);
+    return open_for_reading(path).map(
+        [&](const Node* file) { return file->contents.substr(0, limit); });
 }
 
 }  // namespace zephyne

@@ -49,14 +49,18 @@ class MemoryFileSystem final : public FileSystem {
     std::optional<std::string> contents(std::string_view path) const;
 
     // Faults. Those of a path stay until allow(path).
-    void deny(std::string_view path);          // reading, listing and writing: no permission
-    void deny_listing(std::string_view path);  // of a folder whose files can be opened
-    void deny_writing(std::string_view path);  // a file, or what is done to a folder's members
-    void hold_open(std::string_view path);     // "File already open" on every attempt to open it
-    void vanish(std::string_view path);        // still listed, but not there when it is opened
-    void allow(std::string_view path);
-    void fail_write_number(int number);  // that write from now on, counted from 1; one fault only
-    void fail_next_close();
+    // deny: no reading, listing or writing. deny_listing: of a folder whose files can be opened.
+    // deny_writing: of a file, or of a folder's members. hold_open: "File already open" on every
+    // attempt to open it. vanish: still listed, but not there when it is opened.
+    void deny(std::string_view path) { set_fault(path, Fault::denied); }
+    void deny_listing(std::string_view path) { set_fault(path, Fault::list_denied); }
+    void deny_writing(std::string_view path) { set_fault(path, Fault::write_denied); }
+    void hold_open(std::string_view path) { set_fault(path, Fault::held_open); }
+    void vanish(std::string_view path) { set_fault(path, Fault::vanished); }
+    void allow(std::string_view path) { set_fault(path, Fault::none); }
+    // The write of that number from now on, counted from 1; one fault only.
+    void fail_write_number(int number) { writes_until_failure_ = number; }
+    void fail_next_close() { close_fails_ = true; }
 
     // How many files were opened so far, for reading or writing, or tried to be.
     int open_count() const { return open_count_; }
@@ -65,8 +69,12 @@ class MemoryFileSystem final : public FileSystem {
     std::string current_folder() const override { return current_folder_; }
     FileResult<void> set_current_folder(const std::string& folder) override;
     std::vector<Volume> volumes() const override;
-    FileResult<std::vector<std::string>> list_files(const std::string& folder) const override;
-    FileResult<std::vector<std::string>> list_folders(const std::string& folder) const override;
+    FileResult<std::vector<std::string>> list_files(const std::string& folder) const override {
+        return list(folder, MemberKind::file);
+    }
+    FileResult<std::vector<std::string>> list_folders(const std::string& folder) const override {
+        return list(folder, MemberKind::folder);
+    }
     FileResult<FolderIdentity> identify_folder(const std::string& folder) const override;
     FileResult<std::unique_ptr<FolderReader>> read_folder(const std::string& folder) const override;
     FileResult<std::string> resolve(const std::string& path) const override;
@@ -80,22 +88,32 @@ class MemoryFileSystem final : public FileSystem {
     FileResult<void> move_file(const std::string& from, const std::string& to) override;
 
   private:
+    enum class Fault { none, denied, list_denied, write_denied, held_open, vanished };
     struct Node;
     class Output;
     class Reader;
     using NodePtr = std::shared_ptr<Node>;
+
+    // Where a file is or is to be: its folder, and its name as written.
+    struct Place {
+        Node* folder;
+        std::string name;
+    };
 
     std::vector<std::string> parts_of(std::string_view path) const;
     std::string path_of(const std::vector<std::string>& parts) const;
     Node* exactly(std::string_view path) const;
     Node& must_exist(std::string_view path) const;
     Node& folder_for(const std::vector<std::string>& parts);
+    void set_fault(std::string_view path, Fault fault);
+    FileResult<std::vector<Node*>> walk(const std::string& path) const;
     FileResult<Node*> find(const std::string& path) const;
+    FileResult<Node*> find_folder(const std::string& path) const;
     FileResult<Node*> open_for_reading(const std::string& path) const;
-    Node& folder_of(const Node& member) const;
+    FileResult<Place> place_of(const std::string& path) const;
     FileResult<void> write_fault();
+    FileResult<void> close_fault();
     FileResult<void> give_place(Node& file, const std::string& to);
-    std::string volume_of(const std::string& path) const;
     FileResult<std::vector<std::string>> list(const std::string& folder, MemberKind wanted) const;
 
     PathStyle style_;

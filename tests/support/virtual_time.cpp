@@ -20,4 +20,16 @@ void VirtualPump::run_for(Milliseconds duration) {
     clock_.advance_to(end);
 }
 
+void VirtualPump::arrive_when(std::function<bool()> when, std::function<void()> act) {
+    on_pump = [when = std::move(when), act = std::move(act), arrived = false]() mutable {
+        if (arrived || !when()) return;
+        arrived = true;
+        act();
+    };
+}
+
+void VirtualPump::arrive_in(int pump, std::function<void()> act) {
+    arrive_when([left = pump]() mutable { return --left == 0; }, std::move(act));
+}
+
 }  // namespace zephyne::test

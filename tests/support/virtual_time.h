@@ -41,6 +41,11 @@ class VirtualPump final : public EventPump {
     // What arrives in the middle of the next pumps: a click, a song handed over.
     std::function<void()> on_pump;
 
+    // The same once: in the first pump in which `when` holds, or in that of the next pumps,
+    // counted from 1.
+    void arrive_when(std::function<bool()> when, std::function<void()> act);
+    void arrive_in(int pump, std::function<void()> act);
+
   private:
     VirtualClock& clock_;
     Scheduler& scheduler_;

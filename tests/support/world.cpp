@@ -56,12 +56,45 @@ void World::open_playlist(std::initializer_list<std::string> entries) {
     form.File1.set_items(std::move(song_names));
 }
 
+void World::start_playlist(std::int32_t mode, std::initializer_list<std::string> entries) {
+    open_playlist(entries);
+    settings().Mode = mode;
+    engine->order.RefillAndPlayNext();
+}
+
+void World::start_queue(const std::string& song, std::initializer_list<std::string> waiting) {
+    settings().Mode = PlayMode::Queue;
+    form.Command19.set_visible(true);
+    program.CurrentSongName = program.CurrentSongPath = path(song);
+    engine->player.PlayFile();
+    for (const std::string& name : waiting) form.List2.add({path(name), {}});
+}
+
+void World::open_row(const std::string& name) {
+    const auto& rows = form.Dir1.rows();
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (rows[row].text == name) return form.Dir1.open(row);
+    }
+    ADD_FAILURE() << name << " is not in the folder list";
+}
+
 void World::click(const std::string& name) {
     const auto& items = form.File1.items();
     for (std::size_t row = 0; row < items.size(); ++row) {
         if (items[row].text == name || items[row].real() == name) return form.File1.click(row);
     }
     ADD_FAILURE() << name << " is not in the list";
+}
+
+void World::end_song() {
+    for (SimulatedBackend* backend : {&midi, &wave, &video}) {
+        if (backend->mode() == DeviceMode::playing) backend->finish();
+    }
+}
+
+void World::finish_song() {
+    end_song();
+    pump.pump();
 }
 
 std::vector<std::string> World::played() {

@@ -13,12 +13,19 @@
 #include "tests/support/simulated_backend.h"
 #include "tests/support/virtual_time.h"
 
+#include <gtest/gtest.h>
+
 #include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace zephyne::test {
+
+// For tests in both styles of paths.
+inline std::string style_name(const testing::TestParamInfo<PathStyle>& tested) {
+    return tested.param == PathStyle::posix ? "Posix" : "Windows";
+}
 
 class World {
   public:
@@ -59,13 +66,24 @@ class World {
     // As after loading a playlist in Manual mode: entry lines, "name|folder".
     void open_playlist(std::initializer_list<std::string> entries);
 
-    // Clicks a song in the list.
+    // The same with the start of the mode's cycle.
+    void start_playlist(std::int32_t mode, std::initializer_list<std::string> entries);
+
+    // As after the start with a song on the command line, while others wait in the queue.
+    void start_queue(const std::string& song, std::initializer_list<std::string> waiting = {});
+
+    // Clicks a song in the list, or opens a folder of the folder list.
     void click(const std::string& name);
+    void open_row(const std::string& name);
 
     // Another copy of the program leaves a path; the poll finds it within two seconds.
     void hand_over(const std::string& path) { form.Label15.set_caption(path); }
 
     void run_for(Milliseconds duration) { pump.run_for(duration); }
+
+    // The song that plays is over; and with all that follows from it at once.
+    void end_song();
+    void finish_song();
 
     // The songs that began to play from their start, without the reset sequences, since the last
     // call.
@@ -84,12 +102,15 @@ class World {
     // The file name of the song that the device holds; "" when it holds none.
     std::string open_song() const;
 
+    // What the window counts, as "3, 2": songs in the list, songs to be played.
+    std::string counts() const { return form.Label2.caption() + ", " + form.Label4.caption(); }
+
     // Fail the test when a guard flag is still set; when the window says something else than the
-    // device does; when a key or list is left locked.
+    // device does; when a key or list is left locked; on any of these.
     void expect_flags_at_rest() const;
     void expect_title_tells_the_truth() const;
     void expect_window_unlocked() const;
-    void expect_in_one_piece() const;  // all three
+    void expect_in_one_piece() const;
 
   private:
     std::size_t played_up_to_ = 0;

@@ -1,10 +1,7 @@
 // Options and what's-this help in a window on a screen that nobody sees, and the help window.
-#include "core/controls/form.h"
 #include "core/controls/option_button.h"
-#include "core/controls/simple_controls.h"
-#include "ui/qt/form_window.h"
+#include "tests/ui/sample_form.h"
 #include "ui/qt/help_window.h"
-#include "ui/qt/qt_window_host.h"
 
 #include <gtest/gtest.h>
 
@@ -14,12 +11,8 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QTemporaryDir>
-#include <QTest>
-#include <string>
-#include <utility>
-#include <vector>
 
-namespace zephyne {
+namespace zephyne::test {
 namespace {
 
 struct OptionForm : Form {
@@ -28,44 +21,19 @@ struct OptionForm : Form {
             option->on_click = [this, option] { log.push_back(option->name()); };
         }
         two.set_help("What two is.");
+        two.select();
     }
 
     Frame group{*this, {.name = "group", .place = {150, 150, 2700, 900}}};
-    OptionButton one{*this, row("one", 300, 1, &group)};
-    OptionButton two{*this, row("two", 600, 2, &group)};
-    OptionButton other{*this, row("other", 1500, 3, nullptr)};
-    std::vector<std::string> log;
-
-  private:
-    static ControlDesign row(std::string_view name, int top, int tab, Control* frame) {
-        return {.name = name,
-                .place = {300, top, 1500, 255},
-                .caption = name,
-                .tab = tab,
-                .stop = TabStop::yes,
-                .frame = frame};
-    }
+    OptionButton one{*this, stop("one", {300, 300, 1500, 255}, 1, &group)};
+    OptionButton two{*this, stop("two", {300, 600, 1500, 255}, 2, &group)};
+    OptionButton other{*this, stop("other", {300, 1500, 1500, 255}, 3)};
+    Log log;
 };
 
-class OptionMirrorTest : public testing::Test {
+class OptionMirror : public ShownForm<OptionForm> {
   protected:
-    void SetUp() override {
-        host.create(form);
-        form.load();
-        form.two.select();
-        form.set_visible(true);
-        window = host.window_of(form);
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
-        form.log.clear();
-    }
-    QAbstractButton* key(const Control& control) const {
-        for (auto* child : window->findChildren<QAbstractButton*>()) {
-            if (child->accessibleName().toStdString() == control.name()) return child;
-        }
-        return nullptr;
-    }
-    std::vector<std::string> taken() { return std::exchange(form.log, {}); }
+    QAbstractButton* key(const Control& control) const { return widget<QAbstractButton>(control); }
 
     // The text of the note that is open; closes it.
     static std::string note() {
@@ -75,17 +43,13 @@ class OptionMirrorTest : public testing::Test {
         popup->close();
         return text;
     }
-
-    QtWindowHost host{1};
-    OptionForm form;
-    FormWindow* window = nullptr;
 };
 
-TEST_F(OptionMirrorTest, FollowsTheGroupInBothDirections) {
+TEST_F(OptionMirror, FollowsTheGroupInBothDirections) {
     EXPECT_TRUE(key(form.two)->isChecked());
     QTest::mouseClick(key(form.one), Qt::LeftButton);
     QTest::mouseClick(key(form.one), Qt::LeftButton);
-    EXPECT_EQ(taken(), (std::vector<std::string>{"one", "one"}));
+    EXPECT_EQ(taken(), (Log{"one", "one"}));
     EXPECT_TRUE(key(form.one)->isChecked());
     EXPECT_FALSE(key(form.two)->isChecked());
     form.two.select();
@@ -96,7 +60,7 @@ TEST_F(OptionMirrorTest, FollowsTheGroupInBothDirections) {
               QAccessible::RadioButton);
 }
 
-TEST_F(OptionMirrorTest, TabStopsOnceInAGroupAndTheArrowsChoose) {
+TEST_F(OptionMirror, TabStopsOnceInAGroupAndTheArrowsChoose) {
     key(form.two)->setFocus();
     QTest::keyClick(key(form.two), Qt::Key_Tab);
     EXPECT_EQ(form.focused(), &form.other);
@@ -104,12 +68,12 @@ TEST_F(OptionMirrorTest, TabStopsOnceInAGroupAndTheArrowsChoose) {
     EXPECT_EQ(form.focused(), &form.two) << "not one, which is not selected";
     QTest::keyClick(key(form.two), Qt::Key_Up);
     EXPECT_EQ(form.focused(), &form.one);
-    EXPECT_EQ(taken(), std::vector<std::string>{"one"});
+    EXPECT_EQ(taken(), Log{"one"});
     QTest::keyClick(key(form.one), Qt::Key_Space);
-    EXPECT_EQ(taken(), std::vector<std::string>{"one"});
+    EXPECT_EQ(taken(), Log{"one"});
 }
 
-TEST_F(OptionMirrorTest, TellsWhatAControlIsByMouseAndByKey) {
+TEST_F(OptionMirror, TellsWhatAControlIsByMouseAndByKey) {
     QHelpEvent asked(QEvent::WhatsThis, {1, 1}, {50, 50});
     QCoreApplication::sendEvent(key(form.two), &asked);
     EXPECT_EQ(note(), "What two is.");
@@ -123,7 +87,7 @@ TEST_F(OptionMirrorTest, TellsWhatAControlIsByMouseAndByKey) {
         QCoreApplication::sendEvent(key(*option), &may_ask);
         EXPECT_EQ(may_ask.isAccepted(), option == &form.two);
     }
-    EXPECT_EQ(taken(), std::vector<std::string>()) << "asking is not using";
+    EXPECT_EQ(taken(), Log()) << "asking is not using";
 }
 
 TEST(HelpWindow, OpensAtTheBeginningOnceAndCloses) {
@@ -149,4 +113,4 @@ TEST(HelpWindow, OpensAtTheBeginningOnceAndCloses) {
 }
 
 }  // namespace
-}  // namespace zephyne
+}  // namespace zephyne::test

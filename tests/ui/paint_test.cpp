@@ -1,5 +1,6 @@
 // What the eye would notice only late: gaps between neighbours, wrong segments, captions that
 // leave their keys.
+#include "core/controls/simple_controls.h"
 #include "ui/qt/paint/controls.h"
 #include "ui/qt/paint/led_digits.h"
 #include "ui/qt/paint/lists.h"
@@ -10,33 +11,16 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
 #include <array>
-#include <memory>
 #include <string>
 #include <tuple>
 #include <vector>
 
 namespace zephyne::paint {
 namespace {
-
-// Fonts and pictures need an application; another test file may have made it already.
-class Application : public testing::Environment {
-    void SetUp() override {
-        if (QCoreApplication::instance()) return;
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-        static int argc = 1;
-        static char name[] = "paint_test";
-        static char* argv[] = {name, nullptr};
-        application_ = std::make_unique<QApplication>(argc, argv);
-    }
-    void TearDown() override { application_.reset(); }
-
-    std::unique_ptr<QApplication> application_;
-};
-[[maybe_unused]] const auto* const application = testing::AddGlobalTestEnvironment(new Application);
 
 constexpr std::array scales{1.0, 1.25, 1.5, 2.0};
 
@@ -87,11 +71,10 @@ TEST(PaintScale, HalvesGoUpOnBothSidesOfZero) {
 
 TEST(PaintScale, AnInsetBringsTheEdgesOfDifferentPlacesToOneLine) {
     for (const double s : scales) {
-        const Scale scale{s};
-        EXPECT_EQ(scale.box(2745, 2040, 6030, 2205, {.left = 1}).left(),
-                  scale.box(2760, 480, 6030, 1215, {.right = 1}).left());
-        EXPECT_EQ(scale.box(2745, 2040, 6030, 2205, {.left = 1}).right(),
-                  scale.box(2760, 480, 6030, 1215, {.right = 1}).right());
+        const QRect one = Scale{s}.box(2745, 2040, 6030, 2205, {.left = 1});
+        const QRect other = Scale{s}.box(2760, 480, 6030, 1215, {.right = 1});
+        EXPECT_EQ(one.left(), other.left());
+        EXPECT_EQ(one.right(), other.right());
     }
 }
 
@@ -157,25 +140,21 @@ std::string segments_seen(int picture, const QColor& expected) {
 
 TEST(PaintLed, EveryDigitLightsItsSegmentsInEveryColour) {
     const std::vector<std::pair<int, std::string>> table{
-        {0, "abcdef"},  {1, "bc"},     {2, "abdeg"},      {3, "abcdg"},
-        {4, "bcfg"},    {5, "acdfg"},  {6, "acdefg"},     {7, "abc"},
-        {8, "abcdefg"}, {9, "abcdfg"}, {blank_digit, ""}, {reset_digit, "adg"}};
-    for (int display = 0; display < 3; ++display)
-        for (const auto& [digit, lit] : table)
-            EXPECT_EQ(segments_seen(digit_picture(display, digit), led_color(display)), lit)
+        {0, "abcdef"}, {1, "bc"},     {2, "abdeg"}, {3, "abcdg"},   {4, "bcfg"},
+        {5, "acdfg"},  {6, "acdefg"}, {7, "abc"},   {8, "abcdefg"}, {9, "abcdfg"}};
+    for (int display = 0; display < 3; ++display) {
+        const QColor color = led_color(display);
+        for (const auto& [digit, lit] : table) {
+            EXPECT_EQ(segments_seen(digit_image(display, digit), color), lit)
                 << "Display " << display << ", digit " << digit;
-}
-
-TEST(PaintLed, PictureNumbersFollowTheListsOfTheClock) {
-    EXPECT_EQ(digit_picture(0, 0), 1);
-    EXPECT_EQ(digit_picture(2, 9), 30);
-    EXPECT_EQ(digit_picture(1, blank_digit), 32);
-    EXPECT_EQ(digit_picture(2, reset_digit), 36);
-    EXPECT_EQ(status_picture(1, 3), 7);
+        }
+        EXPECT_EQ(segments_seen(blank_image(display), color), "") << display;
+        EXPECT_EQ(segments_seen(reset_image(display), color), "adg") << display;
+    }
 }
 
 TEST(PaintLed, AnUnknownDisplayAndAWrongNumberShowNoColour) {
-    for (const int picture : {digit_picture(7, 3), 0, -5, 2000000000}) {
+    for (const int picture : {digit_image(7, 3), 0, -5, 2000000000}) {
         const QImage image = drawn({80, 120}, [&](QPainter& painter) {
             led_digit(painter, Scale{2}, QRect(20, 20, 40, 80), picture);
             led_status(painter, Scale{2}, QRect(20, 20, 18, 80), picture);
@@ -189,7 +168,7 @@ TEST(PaintLed, TheColonBlinksAndRocks) {
         {{true, true}, {false, false}, {true, false}, {false, true}}};
     for (int frame = 1; frame <= 4; ++frame) {
         const QImage image = drawn({60, 120}, [&](QPainter& painter) {
-            led_status(painter, Scale{2}, QRect(20, 20, 18, 80), status_picture(1, frame));
+            led_status(painter, Scale{2}, QRect(20, 20, 18, 80), status_image(1, frame));
         });
         const auto lit = [&](int x, int y) { return image.pixelColor(x, y) == led_color(1); };
         const auto [upper, lower] = expected[static_cast<std::size_t>(frame - 1)];
@@ -198,12 +177,18 @@ TEST(PaintLed, TheColonBlinksAndRocks) {
     }
 }
 
-TEST(NoteRoll, OnlyTheRestingFrameIsSilent) {
+TEST(NoteRoll, IsSilentOnlyAtRestAndNeverLeavesItsCell) {
+    const QRect cell(10, 10, 57, 60);
+    const QImage empty = blank({80, 80});
     for (int frame = 1; frame <= roll_frames; ++frame) {
-        bool sounding = false;
-        for (const RollNote& note : roll_notes(frame))
-            sounding |= phase_at(note, roll_line_step) == NotePhase::Sounding;
+        const auto notes = roll_notes(frame);
+        const bool sounding = std::any_of(notes.begin(), notes.end(), [](const RollNote& note) {
+            return phase_at(note, roll_line_step) == NotePhase::Sounding;
+        });
         EXPECT_EQ(sounding, frame != 1) << frame;
+        const QImage image = drawn(
+            empty.size(), [&](QPainter& painter) { note_roll(painter, Scale{1.5}, cell, frame); });
+        EXPECT_TRUE(cell.contains(changed(empty, image))) << frame;
     }
 }
 
@@ -213,11 +198,13 @@ TEST(NoteRoll, NotesTravelOneStepPerFrameAndTheLoopHasNoSeam) {
         const auto next = roll_notes(frame + 1);
         for (const RollNote& note : roll_notes(frame)) {
             if (note.position + note.length <= 1 || note.position > roll_steps) continue;
-            bool found = false;
-            for (const RollNote& later : next)
-                found |= std::tuple(later.position, later.length, later.row) ==
-                         std::tuple(note.position - 1, note.length, note.row);
-            EXPECT_TRUE(found) << "frame " << frame << ", note at " << note.position;
+            EXPECT_TRUE(std::any_of(next.begin(), next.end(),
+                                    [&](const RollNote& later) {
+                                        return std::tuple(later.position + 1, later.length,
+                                                          later.row) ==
+                                               std::tuple(note.position, note.length, note.row);
+                                    }))
+                << "frame " << frame << ", note at " << note.position;
         }
     }
     const auto picture = [](int frame) {
@@ -229,19 +216,9 @@ TEST(NoteRoll, NotesTravelOneStepPerFrameAndTheLoopHasNoSeam) {
     EXPECT_NE(picture(roll_frames), picture(1));
 }
 
-TEST(NoteRoll, NothingIsDrawnOutsideItsCell) {
-    const QRect cell(10, 10, 57, 60);
-    const QImage empty = blank({80, 80});
-    for (int frame = 1; frame <= roll_frames; ++frame) {
-        const QImage image = drawn(
-            empty.size(), [&](QPainter& painter) { note_roll(painter, Scale{1.5}, cell, frame); });
-        EXPECT_TRUE(cell.contains(changed(empty, image))) << frame;
-    }
-}
-
 TEST(PaintType, CaptionsAreCondensedBeforeTheyAreCut) {
     const Scale scale{1};
-    const QString caption = QStringLiteral("Explore");
+    const QString caption = "Explore";
     const double natural = text_width(caption, Role::Caption, scale);
 
     const FittedText roomy = fit_text(caption, Role::Caption, scale, natural + 1, Fit::Condense);
@@ -256,7 +233,7 @@ TEST(PaintType, CaptionsAreCondensedBeforeTheyAreCut) {
 }
 
 TEST(PaintType, AFittedLineNeverLeavesItsBox) {
-    const QString text = QStringLiteral("A song whose name goes on and on.mid");
+    const QString text = "A song whose name goes on and on.mid";
     const QRect box(20, 10, 60, 20);
     const QImage empty = blank({400, 40});
     for (const Fit fit : {Fit::Condense, Fit::ElideMiddle}) {
@@ -280,15 +257,15 @@ TEST(PaintType, ATextBoxOfTheInformationWindowHoldsSixLines) {
 }
 
 TEST(PaintType, AnElidedFileNameKeepsItsEnds) {
-    const FittedText fitted = fit_text(QStringLiteral("Moonlight over the harbour at four.mid"),
-                                       Role::Row, Scale{1}, 120, Fit::ElideMiddle);
-    EXPECT_TRUE(fitted.text.startsWith(QStringLiteral("Moon")));
-    EXPECT_TRUE(fitted.text.endsWith(QStringLiteral(".mid")));
+    const FittedText fitted = fit_text("Moonlight over the harbour at four.mid", Role::Row,
+                                       Scale{1}, 120, Fit::ElideMiddle);
+    EXPECT_TRUE(fitted.text.startsWith("Moon"));
+    EXPECT_TRUE(fitted.text.endsWith(".mid"));
     EXPECT_LE(fitted.width, 120);
 }
 
 TEST(PaintType, WidthsGrowWithTheScaleAndNothingElse) {
-    const QString text = QStringLiteral("Random Playback");
+    const QString text = "Random Playback";
     const double one = text_width(text, Role::LedValue, Scale{1});
     for (const double s : scales)
         EXPECT_NEAR(text_width(text, Role::LedValue, Scale{s}), one * s, 0.01 * one * s);
@@ -296,24 +273,23 @@ TEST(PaintType, WidthsGrowWithTheScaleAndNothingElse) {
 
 TEST(PaintType, WrappedLinesKeepAllWordsAndFitTheirRoom) {
     const Scale scale{1.25};
-    const QString text = QStringLiteral("one two\r\n\nthree averyveryverylongwordwithoutspaces x");
+    const QString text = "one two\r\n\nthree averyveryverylongwordwithoutspaces x";
     const QStringList lines = wrap_text(text, Role::Notice, scale, 60);
     ASSERT_GE(lines.size(), 4);
     EXPECT_TRUE(lines.contains(QString())) << "the empty line is kept";
     for (const QString& line : lines)
         EXPECT_LE(text_width(line.trimmed(), Role::Notice, scale), 61) << qPrintable(line);
     QString joined = lines.join(QString());
-    EXPECT_EQ(joined.remove(QLatin1Char(' ')),
-              QStringLiteral("onetwothreeaveryveryverylongwordwithoutspacesx"));
+    EXPECT_EQ(joined.remove(QLatin1Char(' ')), "onetwothreeaveryveryverylongwordwithoutspacesx");
 }
 
 TEST(PaintType, AHighKeyBreaksItsCaptionIntoEvenLines) {
     const Scale scale{1};
-    EXPECT_EQ(balanced_lines(QStringLiteral("Create/Edit/Save a Playlist"), Role::Caption, scale),
-              QStringList({QStringLiteral("Create/Edit/Save"), QStringLiteral("a Playlist")}));
-    EXPECT_EQ(balanced_lines(QStringLiteral("Open a Playlist"), Role::Caption, scale),
-              QStringList({QStringLiteral("Open a"), QStringLiteral("Playlist")}));
-    EXPECT_EQ(balanced_lines(QStringLiteral("Options..."), Role::Caption, scale).size(), 1);
+    EXPECT_EQ(balanced_lines("Create/Edit/Save a Playlist", Role::Caption, scale),
+              QStringList({"Create/Edit/Save", "a Playlist"}));
+    EXPECT_EQ(balanced_lines("Open a Playlist", Role::Caption, scale),
+              QStringList({"Open a", "Playlist"}));
+    EXPECT_EQ(balanced_lines("Options...", Role::Caption, scale).size(), 1);
 }
 
 TEST(PaintSliders, TheCapStandsWhereTheMouseWouldPutIt) {
