@@ -17,16 +17,6 @@ namespace zephyne::paint {
 inline constexpr int blank_digit = 10;
 inline constexpr int reset_digit = 11;
 
-// The picture of a digit 0 to 9, blank_digit or reset_digit.
-constexpr int digit_picture(int display, int digit) {
-    if (digit == blank_digit) return display + 31;
-    if (digit == reset_digit) return display + 34;
-    return display * 10 + 1 + digit;
-}
-constexpr int status_picture(int display, int frame) {
-    return display * 4 + frame;
-}
-
 // Which segments a digit lights: bit 0 is a, bit 6 is g. None for a number out of range.
 unsigned lit_segments(int digit);
 
