@@ -49,12 +49,6 @@ class OptionsWorld : public ProgramWorld {
         });
     }
 
-    OptionsServices services;
-    OptionsWindow options{stage, *engine, layout, windows, services};
-    bool icon = false;
-    bool tips = false;
-
-  private:
     class Watcher final : public zephyne::ControlObserver {
       public:
         explicit Watcher(OptionsWorld& world) : world_(world) {}
@@ -69,7 +63,13 @@ class OptionsWorld : public ProgramWorld {
         OptionsWorld& world_;
     };
 
-    Watcher watcher{*this};
+    OptionsServices services;
+    Watcher watcher{*this};  // outlives the window that it watches
+    OptionsWindow options{stage, *engine, layout, windows, services};
+    bool icon = false;
+    bool tips = false;
+
+  private:
     std::function<void(Form2&)> act;
 };
 
