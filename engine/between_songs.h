@@ -22,10 +22,9 @@ class BetweenSongs {
     void cancel_delay();
 
     // Stops and closes the device, and plays the reset sequence when that is switched on and its
-    // file is there; then the device is closed and its type is Sequencer. Meanwhile events are
-    // handled: where one of them has started a song, that song stays open. Nothing at all happens
-    // while a song is about to resume.
-    // SwitchingSong is cleared.
+    // file is there; then the device is closed, its type is Sequencer, and SwitchingSong is clear.
+    // Meanwhile events are handled: where one of them has started a song, that song stays open.
+    // Nothing at all happens while a song is about to resume.
     void ResetSynth();
 
     // The same by the user's wish, which AutoReset and ResumePosition have no say in.

@@ -1,8 +1,6 @@
 #include "ui/qt/form_window.h"
 
-#include "core/controls/simple_controls.h"
 #include "core/ports/window_host.h"
-#include "ui/qt/key_codes.h"
 #include "ui/qt/make_mirror.h"
 #include "ui/qt/popup_look.h"
 #include "ui/qt/shown_text.h"
@@ -10,7 +8,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QTextDocument>
 #include <QToolTip>
@@ -37,21 +34,6 @@ constexpr Qt::WindowFlags main_window = Qt::Window | Qt::WindowTitleHint |
                                         Qt::WindowCloseButtonHint;
 constexpr Qt::WindowFlags dialog =
     Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-
-bool is_modifier(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Shift:
-        case Qt::Key_Control:
-        case Qt::Key_Alt:
-        case Qt::Key_AltGr:
-        case Qt::Key_Meta:
-        case Qt::Key_Super_L:
-        case Qt::Key_Super_R:
-            return true;
-        default:
-            return false;
-    }
-}
 
 WindowState state_of(const QWidget& window) {
     if (window.isMinimized()) return WindowState::minimized;
@@ -293,43 +275,6 @@ void FormWindow::follow_focus() {
     }
 }
 
-void FormWindow::key_used(const QKeyEvent& event) {
-    if (is_modifier(event) || std::exchange(keyboard_used_, true)) return;
-    if (Mirror* mirror = mirror_of(form_.focused())) mirror->repaint();
-}
-
-void FormWindow::mouse_used() {
-    if (!std::exchange(keyboard_used_, false)) return;
-    if (Mirror* mirror = mirror_of(form_.focused())) mirror->repaint();
-}
-
-bool FormWindow::press_answer_key(const QKeyEvent& event) {
-    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
-    Control* answer = nullptr;
-    switch (event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            answer = form_.default_button();
-            break;
-        case Qt::Key_Escape:
-            answer = form_.cancel_button();
-            break;
-        default:
-            break;
-    }
-    if (!answer || answer->kind() != ControlKind::button || !answer->shown() || !answer->usable()) {
-        return false;
-    }
-    // A key held down must not answer the next question, too.
-    if (!event.isAutoRepeat()) static_cast<Button*>(answer)->click();
-    return true;
-}
-
-void FormWindow::report_released_key(const QKeyEvent& event) {
-    const int code = key_code(event);
-    if (code != 0 && !event.isAutoRepeat()) form_.user_released_key(code);
-}
-
 void FormWindow::show_tooltip(const QPoint& screen_point, const QString& text) {
     const QString plain = Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
     QToolTip::showText(screen_point, plain, tooltip_look_);
@@ -420,19 +365,6 @@ void FormWindow::changeEvent(QEvent* event) {
         default:
             break;
     }
-}
-
-void FormWindow::keyPressEvent(QKeyEvent* event) {
-    event->ignore();
-    if (!attached_ || (focusWidget() && focusWidget() != this)) return;
-    key_used(*event);
-    event->setAccepted(press_answer_key(*event));
-}
-
-void FormWindow::keyReleaseEvent(QKeyEvent* event) {
-    event->ignore();
-    if (!attached_ || (focusWidget() && focusWidget() != this)) return;
-    report_released_key(*event);
 }
 
 // What changes more often is painted with the next picture. Qt asks once for each picture, and not

@@ -1,5 +1,6 @@
-// The window of a form: builds a mirror for each control of the sheet, paints faceplate and
-// controls, and reports to the form what the window manager and the user do with the window.
+// The window of a form: builds a mirror for each control of the sheet when it has been shown,
+// paints faceplate and controls, and reports to the form what the window manager and the user do
+// with the window.
 //
 // All painting of controls happens in this one widget and in device pixels, so that edges snap
 // across the whole window and a halo may reach over a neighbour; only what is dirty is painted.
